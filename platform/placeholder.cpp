@@ -1,0 +1,2 @@
+// Replaced as the platform layer grows.
+namespace qa_platform_placeholder {}
