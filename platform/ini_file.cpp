@@ -1,0 +1,213 @@
+#include "platform/ini_file.h"
+
+#include "platform/ruta.h"
+#include "platform/texto.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+#include <unistd.h>
+#include <vector>
+
+namespace fs = std::filesystem;
+
+namespace qa {
+
+namespace {
+
+AvisoIdiomaIncorrecto& Aviso() {
+    static AvisoIdiomaIncorrecto aviso;
+    return aviso;
+}
+
+bool EsBlanco(char c) {
+    return c == ' ' || c == '\t';
+}
+
+std::string_view Recortar(std::string_view s) {
+    while (!s.empty() && EsBlanco(s.front())) s.remove_prefix(1);
+    while (!s.empty() && EsBlanco(s.back())) s.remove_suffix(1);
+    return s;
+}
+
+struct Linea {
+    std::string bruta; // bytes as in the file, without the line end
+    std::string fin;   // "\r\n", "\n" or "" for a last line without one
+    std::string texto; // the line as UTF-8
+};
+
+struct Fichero {
+    bool latin1 = false;
+    std::string finLinea = "\r\n";
+    std::vector<Linea> lineas;
+};
+
+bool Cargar(const std::string& ruta, Fichero& f) {
+    std::ifstream in(ruta, std::ios::binary);
+    if (!in) return false;
+    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    f.latin1 = !EsUtf8(bytes);
+    bool finVisto = false;
+    std::size_t i = 0;
+    while (i < bytes.size()) {
+        std::size_t j = bytes.find('\n', i);
+        Linea l;
+        if (j == std::string::npos) {
+            l.bruta = bytes.substr(i);
+            i = bytes.size();
+        } else {
+            l.bruta = bytes.substr(i, j - i);
+            l.fin = "\n";
+            if (!l.bruta.empty() && l.bruta.back() == '\r') {
+                l.bruta.pop_back();
+                l.fin = "\r\n";
+            }
+            if (!finVisto) f.finLinea = l.fin;
+            finVisto = true;
+            i = j + 1;
+        }
+        l.texto = f.latin1 ? Latin1AUtf8(l.bruta) : l.bruta;
+        if (f.lineas.empty() && l.texto.rfind("\xEF\xBB\xBF", 0) == 0) l.texto.erase(0, 3);
+        f.lineas.push_back(std::move(l));
+    }
+    return true;
+}
+
+// Section name of a header line, or nothing.
+std::optional<std::string_view> Seccion(std::string_view texto) {
+    texto = Recortar(texto);
+    if (texto.empty() || texto.front() != '[') return std::nullopt;
+    texto.remove_prefix(1);
+    auto cierre = texto.find(']');
+    return Recortar(texto.substr(0, cierre));
+}
+
+bool EsClave(std::string_view texto) {
+    texto = Recortar(texto);
+    return !texto.empty() && texto.front() != ';' && texto.front() != '[';
+}
+
+std::string_view Clave(std::string_view texto) {
+    return Recortar(texto.substr(0, texto.find('=')));
+}
+
+// Index range [inicio, fin) of the lines of the first section of that name.
+bool BuscarSeccion(const Fichero& f, const std::string& seccion, std::size_t& inicio,
+                   std::size_t& fin) {
+    for (std::size_t i = 0; i < f.lineas.size(); ++i) {
+        auto s = Seccion(f.lineas[i].texto);
+        if (!s || !IgualSinCaso(*s, seccion)) continue;
+        inicio = i + 1;
+        fin = inicio;
+        while (fin < f.lineas.size() && !Seccion(f.lineas[fin].texto)) ++fin;
+        return true;
+    }
+    return false;
+}
+
+std::optional<std::size_t> BuscarClave(const Fichero& f, std::size_t inicio, std::size_t fin,
+                                       const std::string& clave) {
+    for (std::size_t i = inicio; i < fin; ++i) {
+        const auto& t = f.lineas[i].texto;
+        if (EsClave(t) && IgualSinCaso(Clave(t), clave)) return i;
+    }
+    return std::nullopt;
+}
+
+std::string Valor(std::string_view texto) {
+    auto igual = texto.find('=');
+    if (igual == std::string_view::npos) return {};
+    std::string_view v = texto.substr(igual + 1);
+    while (!v.empty() && EsBlanco(v.front())) v.remove_prefix(1);
+    if (v.size() >= 2 && (v.front() == '"' || v.front() == '\'') && v.back() == v.front())
+        v = v.substr(1, v.size() - 2);
+    return Izquierda(v, kLargoMaximoValor);
+}
+
+bool Guardar(const std::string& ruta, const Fichero& f) {
+    std::string bytes;
+    for (const auto& l : f.lineas) bytes += l.bruta + l.fin;
+    const std::string temporal = ruta + ".tmp" + std::to_string(::getpid());
+    {
+        std::ofstream out(temporal, std::ios::binary | std::ios::trunc);
+        if (!out) return false;
+        out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+        out.flush();
+        if (!out) {
+            out.close();
+            std::remove(temporal.c_str());
+            return false;
+        }
+    }
+    std::error_code ec;
+    auto permisos = fs::status(ruta, ec).permissions();
+    if (!ec) fs::permissions(temporal, permisos, ec);
+    if (std::rename(temporal.c_str(), ruta.c_str()) != 0) {
+        std::remove(temporal.c_str());
+        return false;
+    }
+    return true;
+}
+
+} // namespace
+
+void FijarAvisoIdiomaIncorrecto(AvisoIdiomaIncorrecto aviso) {
+    Aviso() = std::move(aviso);
+}
+
+std::string LeerIni(const std::string& fichero, const std::string& seccion,
+                    const std::string& clave) {
+    std::string valor;
+    Fichero f;
+    std::size_t inicio = 0, fin = 0;
+    if (Cargar(RutaReal(fichero), f) && BuscarSeccion(f, seccion, inicio, fin)) {
+        if (auto i = BuscarClave(f, inicio, fin, clave)) valor = Valor(f.lineas[*i].texto);
+    }
+    if (valor.empty() && TerminaEn(fichero, "lng") && Minusculas(seccion) != "autor" && Aviso())
+        Aviso()();
+    return valor;
+}
+
+bool EscribirIni(const std::string& fichero, const std::string& seccion, const std::string& clave,
+                 const std::string& valor) {
+    if (Recortar(seccion).empty() || Recortar(clave).empty()) return false;
+    const std::string ruta = RutaReal(fichero);
+    Fichero f;
+    Cargar(ruta, f);
+    // A line end inside a value would make a new line of the file.
+    std::string v = valor.substr(0, valor.find_first_of("\r\n"));
+    auto codificar = [&](const std::string& s) { return f.latin1 ? Utf8ALatin1(s) : s; };
+
+    std::size_t inicio = 0, fin = 0;
+    if (BuscarSeccion(f, seccion, inicio, fin)) {
+        if (auto i = BuscarClave(f, inicio, fin, clave)) {
+            Linea& l = f.lineas[*i];
+            auto igual = l.bruta.find('=');
+            std::string prefijo;
+            if (igual == std::string::npos) {
+                prefijo = l.bruta + "=";
+            } else {
+                std::size_t k = igual + 1;
+                while (k < l.bruta.size() && EsBlanco(l.bruta[k])) ++k;
+                prefijo = l.bruta.substr(0, k);
+            }
+            l.bruta = prefijo + codificar(v);
+            l.texto = f.latin1 ? Latin1AUtf8(l.bruta) : l.bruta;
+        } else {
+            std::size_t donde = fin;
+            while (donde > inicio && Recortar(f.lineas[donde - 1].texto).empty()) --donde;
+            if (donde > 0 && f.lineas[donde - 1].fin.empty()) f.lineas[donde - 1].fin = f.finLinea;
+            Linea l{codificar(clave + "=" + v), f.finLinea, clave + "=" + v};
+            f.lineas.insert(f.lineas.begin() + static_cast<std::ptrdiff_t>(donde), l);
+        }
+    } else {
+        if (!f.lineas.empty() && f.lineas.back().fin.empty()) f.lineas.back().fin = f.finLinea;
+        f.lineas.push_back({codificar("[" + seccion + "]"), f.finLinea, "[" + seccion + "]"});
+        f.lineas.push_back({codificar(clave + "=" + v), f.finLinea, clave + "=" + v});
+    }
+    return Guardar(ruta, f);
+}
+
+} // namespace qa

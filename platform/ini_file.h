@@ -1,0 +1,26 @@
+#pragma once
+// Settings and language files: sections in brackets and key=value lines, read and written key by
+// key as the private-profile calls do. Sections and keys are found without regard to case, the
+// first of duplicates wins, a missing key reads as empty, a value is cut at 255 characters.
+// A write keeps every other byte of the file, and goes through a temporary file and a rename so
+// that the file is never left half written.
+#include <functional>
+#include <string>
+
+namespace qa {
+
+constexpr std::size_t kLargoMaximoValor = 255;
+
+std::string LeerIni(const std::string& fichero, const std::string& seccion,
+                    const std::string& clave);
+
+// False when the file could not be written; the old file then stands as it was.
+bool EscribirIni(const std::string& fichero, const std::string& seccion, const std::string& clave,
+                 const std::string& valor);
+
+// A language file that lacks a key is noticed in LeerIni (an empty value from a ".lng" file,
+// section other than "Autor"); the shell tells the user and falls back to Spanish.
+using AvisoIdiomaIncorrecto = std::function<void()>;
+void FijarAvisoIdiomaIncorrecto(AvisoIdiomaIncorrecto aviso);
+
+} // namespace qa

@@ -1,2 +1,0 @@
-// Replaced as the platform layer grows.
-namespace qa_platform_placeholder {}
