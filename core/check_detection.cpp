@@ -1,0 +1,627 @@
+#include "core/check_detection.h"
+
+#include "core/game_state.h"
+
+namespace Variables {
+
+namespace {
+
+struct Paso {
+    int dc, df;
+};
+// Ray orders decide the oddities of the search; they must not change.
+constexpr Paso kRectas[4] = {{0, 1}, {0, -1}, {-1, 0}, {1, 0}}; // north, south, west, east
+constexpr Paso kDiagonales[4] = {{1, 1}, {1, -1}, {-1, -1}, {-1, 1}};
+constexpr Paso kCaballo[8] = {{1, 2}, {-1, 2}, {1, -2}, {-1, -2},
+                              {2, 1}, {2, -1}, {-2, 1}, {-2, -1}};
+constexpr Paso kRey[8] = {{0, -1}, {0, 1}, {1, 0}, {-1, 0}, {-1, -1}, {1, -1}, {-1, 1}, {1, 1}};
+
+inline bool Dentro(int c, int f) {
+    return c >= 1 && c <= 8 && f >= 1 && f <= 8;
+}
+inline bool EsPieza(int32_t v) {
+    return v != 0 && v != -1;
+}
+inline int32_t& Copia(int c, int f) {
+    return TableroCopia[c][f];
+}
+
+// Walks rays from a piece, marking touched empty squares, until the king sought or a piece.
+void AtaqueRayos(int col, int fila, int32_t rey, const Paso* pasos, int n) {
+    for (int i = 0; i < n; ++i) {
+        for (int c = col + pasos[i].dc, f = fila + pasos[i].df; Dentro(c, f);
+             c += pasos[i].dc, f += pasos[i].df) {
+            int32_t v = Copia(c, f);
+            if (v == rey) {
+                Ataque = true;
+                break;
+            }
+            if (EsPieza(v)) break;
+            Copia(c, f) = -1;
+        }
+    }
+}
+
+void AtaqueSaltos(int col, int fila, int32_t rey, const Paso* pasos) {
+    for (int i = 0; i < 8; ++i) {
+        int c = col + pasos[i].dc, f = fila + pasos[i].df;
+        if (!Dentro(c, f)) continue;
+        int32_t v = Copia(c, f);
+        if (v == rey)
+            Ataque = true;
+        else if (v == 0 || v == -1)
+            Copia(c, f) = -1;
+    }
+}
+
+void AtaquePeon(int col, int fila, int df, int32_t rey) {
+    int f = fila + df;
+    if (f < 1 || f > 8) return;
+    for (int c : {col - 1, col + 1})
+        if (c >= 1 && c <= 8 && Copia(c, f) == 0) Copia(c, f) = -1;
+    for (int c : {col - 1, col + 1})
+        if (c >= 1 && c <= 8 && Copia(c, f) == rey) Ataque = true;
+}
+
+// The attack walkers of one piece of the attacking side.
+void AtacarDesde(int c, int f, int32_t pieza) {
+    switch (pieza) {
+    case PeonB:
+        AtaquePeonBlanco(c, f);
+        break;
+    case TorreB:
+        AtaqueRecto(c, f, ReyN);
+        break;
+    case CaballoB:
+        AtaqueCaballo(c, f, ReyN);
+        break;
+    case AlfilB:
+        AtaqueDiagonal(c, f, ReyN);
+        break;
+    case DamaB:
+        AtaqueRecto(c, f, ReyN);
+        AtaqueDiagonal(c, f, ReyN);
+        break;
+    case ReyB:
+        AtaqueRey(c, f, ReyN);
+        break;
+    case PeonN:
+        AtaquePeonNegro(c, f);
+        break;
+    case TorreN:
+        AtaqueRecto(c, f, ReyB);
+        break;
+    case CaballoN:
+        AtaqueCaballo(c, f, ReyB);
+        break;
+    case AlfilN:
+        AtaqueDiagonal(c, f, ReyB);
+        break;
+    case DamaN:
+        AtaqueRecto(c, f, ReyB);
+        AtaqueDiagonal(c, f, ReyB);
+        break;
+    case ReyN:
+        AtaqueRey(c, f, ReyB);
+        break;
+    default:
+        break;
+    }
+}
+
+// Every piece of one colour attacks, rows outer and columns inner.
+void EscanearAtaque(bool blancas) {
+    for (int f = 1; f <= 8; ++f)
+        for (int c = 1; c <= 8; ++c) {
+            int32_t p = Copia(c, f);
+            if (blancas ? EsBlanca(p) : EsNegra(p)) AtacarDesde(c, f, p);
+        }
+}
+
+enum class Tras { Sigue, FinRayo, Sale };
+enum class Clase { Recta, Diagonal, Salto };
+
+bool EsCodigoPropio(Clase clase, int32_t objetivo) {
+    switch (clase) {
+    case Clase::Recta:
+        return objetivo == 2 || objetivo == 8 || objetivo == 5 || objetivo == 11;
+    case Clase::Diagonal:
+        return objetivo == 4 || objetivo == 10 || objetivo == 5 || objetivo == 11;
+    case Clase::Salto:
+        return objetivo == 3 || objetivo == 9;
+    }
+    return false;
+}
+
+int32_t PiezaDefensora(Clase clase) {
+    bool blanco = EsBlanca(FichaMovida);
+    switch (clase) {
+    case Clase::Recta:
+        return blanco ? TorreN : TorreB;
+    case Clase::Diagonal:
+        return blanco ? AlfilN : AlfilB;
+    case Clase::Salto:
+        return blanco ? CaballoN : CaballoB;
+    }
+    return 0;
+}
+
+// What a reach walker from (pc, pf) does on a square (c, f) that holds its target.
+Tras Alcanzado(int pc, int pf, int c, int f, int32_t objetivo, Clase clase, bool oeste) {
+    if (BuscandoCaptura) {
+        if (TextoCasilla(c, f) == Atacantes) {
+            Capturadores += TextoCasilla(pc, pf);
+            Mate = false;
+        }
+        return Tras::FinRayo;
+    }
+    if (EsCodigoPropio(clase, objetivo)) {
+        OtraCol = std::to_string(c);
+        OtraFila = std::to_string(f);
+        OtraPieza = true;
+        return Tras::Sale;
+    }
+    if (objetivo == 0) {
+        Mate = false;
+        return Tras::FinRayo;
+    }
+    if (objetivo == -1) {
+        if (oeste) {
+            // Nothing is moved before the scan, so the checker is still found
+            // and the walk goes on; only its marks are left behind.
+            Atacantes.clear();
+            BuscarAtacantes();
+            if (Atacantes.empty()) {
+                Mate = false;
+                return Tras::FinRayo;
+            }
+            return Tras::Sigue;
+        }
+        Copia(c, f) = PiezaDefensora(clase);
+        Mate = false;
+        return Tras::FinRayo;
+    }
+    EsPrimerAtacante(c, f);
+    if (CasillaCoincide) Mate = false;
+    return Tras::FinRayo;
+}
+
+void AlcanceRayos(int col, int fila, int32_t objetivo, const Paso* pasos, int n, Clase clase) {
+    for (int i = 0; i < n; ++i) {
+        bool oeste = clase == Clase::Recta && i == 2;
+        for (int c = col + pasos[i].dc, f = fila + pasos[i].df; Dentro(c, f);
+             c += pasos[i].dc, f += pasos[i].df) {
+            int32_t v = Copia(c, f);
+            if (v == objetivo) {
+                Tras t = Alcanzado(col, fila, c, f, objetivo, clase, oeste);
+                if (t == Tras::Sale) return;
+                if (t == Tras::FinRayo) break;
+                continue;
+            }
+            if (EsPieza(v)) break;
+        }
+    }
+}
+
+// A pawn push tried on the copy: it counts only if it leaves no attacker.
+bool ProbarAvance(int col, int fila, int filaNueva, int32_t peon) {
+    Atacantes.clear();
+    Ataque = false;
+    Copia(col, fila) = 0;
+    Copia(col, filaNueva) = peon;
+    BuscarAtacantes();
+    if (Atacantes.empty()) {
+        Mate = false;
+        return true;
+    }
+    Copia(col, fila) = peon;
+    Copia(col, filaNueva) = -1;
+    return false;
+}
+
+void AvancePeon(int col, int fila, int32_t objetivo, int df, int filaInicio, int32_t peon) {
+    int f1 = fila + df;
+    if (f1 >= 1 && f1 <= 8 && Copia(col, f1) == objetivo) {
+        if (ProbarAvance(col, fila, f1, peon)) return;
+    }
+    int f2 = fila + 2 * df;
+    if (fila == filaInicio && Copia(col, f1) == 0 && Copia(col, f2) == 0 &&
+        Copia(col, f2) == objetivo)
+        ProbarAvance(col, fila, f2, peon);
+}
+
+void CapturaPeon(int col, int fila, int32_t codigo, int df, int filaAlPaso, int32_t victima) {
+    int f = fila + df;
+    if (f >= 1 && f <= 8) {
+        for (int c : {col - 1, col + 1}) {
+            if (c < 1 || c > 8 || Copia(c, f) != codigo) continue;
+            EsPrimerAtacante(c, f);
+            if (CasillaCoincide) {
+                Capturadores += TextoCasilla(col, fila);
+                Mate = false;
+                return;
+            }
+        }
+    }
+    if (AlPasoPosible && fila == filaAlPaso) {
+        for (int c : {col - 1, col + 1}) {
+            if (c < 1 || c > 8 || Copia(c, fila) != victima) continue;
+            EsPrimerAtacante(c, fila);
+            if (CasillaCoincide) {
+                Capturadores += TextoCasilla(col, fila);
+                Mate = false;
+                return;
+            }
+        }
+    }
+}
+
+// Every non-king piece of a colour walks towards the target, rows outer.
+void MoverBando(bool blancas, int32_t objetivo, bool captura) {
+    int32_t base = blancas ? 0 : 6;
+    for (int f = 1; f <= 8; ++f)
+        for (int c = 1; c <= 8; ++c) {
+            int32_t p = Copia(c, f) - base;
+            switch (p) {
+            case 1:
+                if (captura)
+                    blancas ? CapturaPeonBlanco(c, f, objetivo) : CapturaPeonNegro(c, f, objetivo);
+                else
+                    blancas ? AvancePeonBlanco(c, f, objetivo) : AvancePeonNegro(c, f, objetivo);
+                break;
+            case 2:
+                AlcanceRecto(c, f, objetivo);
+                break;
+            case 3:
+                AlcanceCaballo(c, f, objetivo);
+                break;
+            case 4:
+                AlcanceDiagonal(c, f, objetivo);
+                break;
+            case 5:
+                AlcanceRecto(c, f, objetivo);
+                AlcanceDiagonal(c, f, objetivo);
+                break;
+            default:
+                break;
+            }
+        }
+}
+
+// Marks the empty squares between a line checker and the king; gives up a
+// ray at any other piece.
+void MarcarLinea(int col, int fila, int32_t rey, const Paso* pasos) {
+    for (int i = 0; i < 4; ++i) {
+        for (int c = col + pasos[i].dc, f = fila + pasos[i].df; Dentro(c, f);
+             c += pasos[i].dc, f += pasos[i].df) {
+            int32_t v = Copia(c, f);
+            if (v == rey) {
+                Mate = false;
+                break;
+            }
+            if (EsPieza(v)) break;
+        }
+        if (!Mate) {
+            for (int c = col + pasos[i].dc, f = fila + pasos[i].df; Dentro(c, f);
+                 c += pasos[i].dc, f += pasos[i].df) {
+                if (Copia(c, f) == rey || EsPieza(Copia(c, f))) break;
+                Copia(c, f) = -1;
+            }
+            return;
+        }
+    }
+}
+
+void RondaInterposicion() {
+    CopiarYJugar();
+    int c, f;
+    LeerCasilla(Atacantes, c, f);
+    int32_t codigo = Dentro(c, f) ? Copia(c, f) : 0;
+    switch (codigo) {
+    case TorreB:
+        MarcarLineaRecta(c, f, ReyN);
+        break;
+    case AlfilB:
+        MarcarLineaDiagonal(c, f, ReyN);
+        break;
+    case DamaB:
+        MarcarLineaRecta(c, f, ReyN);
+        Mate = true;
+        MarcarLineaDiagonal(c, f, ReyN);
+        break;
+    case TorreN:
+        MarcarLineaRecta(c, f, ReyB);
+        break;
+    case AlfilN:
+        MarcarLineaDiagonal(c, f, ReyB);
+        break;
+    case DamaN:
+        MarcarLineaRecta(c, f, ReyB);
+        Mate = true;
+        MarcarLineaDiagonal(c, f, ReyB);
+        break;
+    default:
+        break;
+    }
+    Mate = true;
+    if (EsBlanca(FichaMovida))
+        MoverNegras(-1);
+    else if (EsNegra(FichaMovida))
+        MoverBlancas(-1);
+}
+
+void CapturarDestino() {
+    int32_t v = TableroCopia[ColDestino][FilaDestino];
+    if (EsBlanca(FichaMovida))
+        CapturaNegras(v);
+    else if (EsNegra(FichaMovida))
+        CapturaBlancas(v);
+}
+
+} // namespace
+
+std::string TextoCasilla(int col, int fila) {
+    return std::to_string(col) + std::to_string(fila);
+}
+
+void LeerCasilla(const std::string& texto, int& col, int& fila) {
+    auto digito = [](char ch) { return (ch >= '0' && ch <= '9') ? ch - '0' : 0; };
+    col = texto.empty() ? 0 : digito(texto.front());
+    fila = texto.empty() ? 0 : digito(texto.back());
+}
+
+void CopiarTablero() {
+    for (int c = 1; c <= 8; ++c)
+        for (int f = 1; f <= 8; ++f) TableroCopia[c][f] = Tablero[c][f];
+}
+
+void CopiarYJugar() {
+    CopiarTablero();
+    if (Dentro(ColOrigen, FilaOrigen)) TableroCopia[ColOrigen][FilaOrigen] = 0;
+    if (Dentro(ColDestino, FilaDestino)) TableroCopia[ColDestino][FilaDestino] = FichaMovida;
+}
+
+void AtaqueRecto(int col, int fila, int32_t rey) {
+    AtaqueRayos(col, fila, rey, kRectas, 4);
+}
+void AtaqueDiagonal(int col, int fila, int32_t rey) {
+    AtaqueRayos(col, fila, rey, kDiagonales, 4);
+}
+void AtaqueCaballo(int col, int fila, int32_t rey) {
+    AtaqueSaltos(col, fila, rey, kCaballo);
+}
+void AtaqueRey(int col, int fila, int32_t rey) {
+    AtaqueSaltos(col, fila, rey, kRey);
+}
+void AtaquePeonNegro(int col, int fila) {
+    AtaquePeon(col, fila, -1, ReyB);
+}
+void AtaquePeonBlanco(int col, int fila) {
+    AtaquePeon(col, fila, 1, ReyN);
+}
+
+void ProbarAtaque() {
+    if (EsBlanca(FichaMovida))
+        EscanearAtaque(false);
+    else if (EsNegra(FichaMovida))
+        EscanearAtaque(true);
+}
+
+void ProbarReyPropio() {
+    CopiarTablero();
+    if (MovimientoValido) {
+        if (Dentro(ColOrigen, FilaOrigen)) TableroCopia[ColOrigen][FilaOrigen] = 0;
+        if (Dentro(ColDestino, FilaDestino)) TableroCopia[ColDestino][FilaDestino] = FichaMovida;
+    }
+    ProbarAtaque();
+}
+
+void BuscarAtacantes() {
+    bool blancas = EsBlanca(FichaMovida);
+    if (!blancas && !EsNegra(FichaMovida)) {
+        Ataque = !Atacantes.empty();
+        return;
+    }
+    for (int f = 1; f <= 8; ++f)
+        for (int c = 1; c <= 8; ++c) {
+            int32_t p = Copia(c, f);
+            if (!(blancas ? EsBlanca(p) : EsNegra(p))) continue;
+            Ataque = false;
+            AtacarDesde(c, f, p);
+            if (Ataque) Atacantes += TextoCasilla(c, f);
+        }
+    Ataque = !Atacantes.empty();
+}
+
+void ProbarJaque() {
+    CopiarYJugar();
+    Atacantes.clear();
+    BuscarAtacantes();
+    if (!Atacantes.empty()) Jaque = true;
+}
+
+void ProbarHuidaRey() {
+    bool moverBlanco = EsBlanca(FichaMovida);
+    if (!moverBlanco && !EsNegra(FichaMovida)) return;
+    int32_t rey = moverBlanco ? ReyN : ReyB;
+    int32_t primero = moverBlanco ? 1 : 7; // the mover's codes, which the king may take
+    for (int f = 1; f <= 8; ++f)
+        for (int c = 1; c <= 8; ++c)
+            if (Copia(c, f) == rey) {
+                ReyCol = c;
+                ReyFila = f;
+            }
+    if (ReyCol < 0 || ReyCol > 8 || ReyFila < 0 || ReyFila > 8) return;
+    constexpr Paso vecinos[8] = {{0, -1}, {-1, -1}, {-1, 0}, {-1, 1},
+                                 {0, 1},  {1, 1},   {1, 0},  {1, -1}};
+    for (const Paso& p : vecinos) {
+        int c = ReyCol + p.dc, f = ReyFila + p.df;
+        if (!Dentro(c, f)) continue;
+        for (int32_t k = primero; k < primero + 6; ++k) {
+            if (!(Copia(c, f) == 0 || Copia(c, f) == k)) continue;
+            Copia(ReyCol, ReyFila) = 0;
+            FichaGuardada = Copia(c, f);
+            Copia(c, f) = rey;
+            Ataque = false;
+            EscanearAtaque(moverBlanco);
+            if (!Ataque) {
+                Jaque = true;
+                Mate = false;
+                return;
+            }
+            Copia(ReyCol, ReyFila) = rey;
+            Copia(c, f) = FichaGuardada;
+        }
+    }
+}
+
+void ContarAtacantes() {
+    CopiarYJugar();
+    CasillaJaque = TextoCasilla(ColDestino, FilaDestino);
+    Atacantes.clear();
+    BuscarAtacantes();
+    if (Atacantes.size() >= 3) {
+        Atacantes = CasillaJaque;
+        Ataque = Mate = true;
+        return;
+    }
+    Ataque = Mate = false;
+    if (Atacantes != CasillaJaque) JaqueDescubierto = Atacantes;
+    Atacantes = CasillaJaque;
+}
+
+void MarcarLineaRecta(int col, int fila, int32_t rey) {
+    MarcarLinea(col, fila, rey, kRectas);
+}
+void MarcarLineaDiagonal(int col, int fila, int32_t rey) {
+    MarcarLinea(col, fila, rey, kDiagonales);
+}
+
+void EsPrimerAtacante(int col, int fila) {
+    CasillaCoincide = !Atacantes.empty() && Atacantes.front() == char('0' + col) &&
+                      Atacantes.back() == char('0' + fila);
+}
+
+void BuscarInterposicion() {
+    if (Mate) RondaInterposicion();
+    if (!JaqueDescubierto.empty()) {
+        Mate = true;
+        Atacantes = JaqueDescubierto;
+        RondaInterposicion();
+    }
+}
+
+void MoverNegras(int32_t objetivo) {
+    MoverBando(false, objetivo, false);
+}
+void MoverBlancas(int32_t objetivo) {
+    MoverBando(true, objetivo, false);
+}
+void CapturaNegras(int32_t codigo) {
+    MoverBando(false, codigo, true);
+}
+void CapturaBlancas(int32_t codigo) {
+    MoverBando(true, codigo, true);
+}
+
+void AlcanceRecto(int col, int fila, int32_t objetivo) {
+    AlcanceRayos(col, fila, objetivo, kRectas, 4, Clase::Recta);
+}
+void AlcanceDiagonal(int col, int fila, int32_t objetivo) {
+    AlcanceRayos(col, fila, objetivo, kDiagonales, 4, Clase::Diagonal);
+}
+void AlcanceCaballo(int col, int fila, int32_t objetivo) {
+    for (const Paso& p : kCaballo) {
+        int c = col + p.dc, f = fila + p.df;
+        if (!Dentro(c, f) || Copia(c, f) != objetivo) continue;
+        if (Alcanzado(col, fila, c, f, objetivo, Clase::Salto, false) == Tras::Sale) return;
+    }
+}
+
+void AvancePeonNegro(int col, int fila, int32_t objetivo) {
+    AvancePeon(col, fila, objetivo, -1, 7, PeonN);
+}
+void AvancePeonBlanco(int col, int fila, int32_t objetivo) {
+    AvancePeon(col, fila, objetivo, 1, 2, PeonB);
+}
+void CapturaPeonNegro(int col, int fila, int32_t codigo) {
+    CapturaPeon(col, fila, codigo, -1, 4, PeonB);
+}
+void CapturaPeonBlanco(int col, int fila, int32_t codigo) {
+    CapturaPeon(col, fila, codigo, 1, 5, PeonN);
+}
+
+void BuscarCaptura() {
+    Capturadores.clear();
+    CopiarYJugar();
+    CapturarDestino();
+    if (!Capturadores.empty()) {
+        int32_t guardada = FichaMovida;
+        while (!Capturadores.empty()) {
+            int c = Capturadores[0] - '0', f = Capturadores[1] - '0';
+            if (!Dentro(c, f)) break;
+            FichaMovida = Copia(c, f);
+            TableroCopia[ColDestino][FilaDestino] = FichaMovida;
+            Copia(c, f) = 0;
+            Ataque = false;
+            ProbarAtaque();
+            if (!Ataque) {
+                Mate = false;
+                break;
+            }
+            Mate = true;
+            if (Capturadores.size() > 2) {
+                Copia(c, f) = FichaMovida;
+                Capturadores.erase(0, 2);
+            } else {
+                Capturadores.clear();
+            }
+        }
+        FichaMovida = guardada;
+    }
+    if (JaqueDescubierto.empty()) return;
+    Mate = true;
+    Atacantes = JaqueDescubierto;
+    BuscandoCaptura = true;
+    CopiarYJugar();
+    CapturarDestino();
+}
+
+void ProbarMate() {
+    CopiarYJugar();
+    ProbarHuidaRey();
+    if (!Mate) return;
+    Ataque = false;
+    ContarAtacantes();
+    if (Ataque) {
+        Mate = true;
+        return;
+    }
+    Mate = true;
+    BuscarInterposicion();
+    BuscandoCaptura = true;
+    BuscarCaptura();
+    BuscandoCaptura = false;
+    Capturadores.clear();
+    JaqueDescubierto.clear();
+}
+
+void ProbarAhogado() {
+    CopiarYJugar();
+    Ataque = false;
+    Mate = true;
+    ProbarHuidaRey();
+    if (!Mate) {
+        Ataque = Jaque = Mate = Ahogado = false;
+        return;
+    }
+    CopiarYJugar();
+    if (EsBlanca(FichaMovida))
+        MoverNegras(0);
+    else if (EsNegra(FichaMovida))
+        MoverBlancas(0);
+    if (Mate) Ahogado = true;
+    Ataque = Jaque = Mate = false;
+}
+
+} // namespace Variables

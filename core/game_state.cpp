@@ -1,0 +1,110 @@
+#include "core/game_state.h"
+
+#include "core/environment.h"
+#include "core/move_list.h"
+
+#include <cstring>
+
+namespace Variables {
+
+void LimpiarTablero() {
+    for (int c = 1; c <= 8; ++c)
+        for (int f = 1; f <= 8; ++f) Tablero[c][f] = 0;
+}
+
+void PonerFichas() {
+    LimpiarTablero();
+    for (int c = 1; c <= 8; ++c) {
+        Tablero[c][2] = PeonB;
+        Tablero[c][7] = PeonN;
+    }
+    static constexpr int32_t blancas[9] = {0, 2, 3, 4, 5, 6, 4, 3, 2};
+    static constexpr int32_t negras[9] = {0, 8, 9, 10, 11, 12, 10, 9, 8};
+    for (int c = 1; c <= 8; ++c) {
+        Tablero[c][1] = blancas[c];
+        Tablero[c][8] = negras[c];
+    }
+}
+
+void VariablesCero() {
+    FilaRaton = ColRaton = 0;
+    MedioTurno = false;
+    NumeroJugada = 0;
+    MovimientoValido = false;
+    AlPasoTexto.clear();
+    TipoEnroque = 0;
+    EnroqueIntento = false;
+    ColOrigen = ColDestino = FilaOrigen = FilaDestino = FichaMovida = FichaDestino = 0;
+    AlPasoCaduca = false;
+    Origen.clear();
+    Destino.clear();
+    TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = false;
+    Ataque = Jaque = Mate = Ahogado = false;
+    PiezaCoronacion = FichaComidaCoronacion = 0;
+    Atacantes.clear();
+    entorno().MarcadorVisible(false);
+    AlPasoFen.clear();
+}
+
+void MovimientoAnulado() {
+    entorno().MarcadorVisible(false);
+    ColRaton = FilaRaton = 0;
+    EnroqueIntento = false;
+    TipoEnroque = 0;
+    MovimientoValido = false;
+    AlPasoTexto.clear();
+    PiezaCoronacion = FichaComidaCoronacion = 0;
+    Atacantes.clear();
+    ColOrigen = FilaOrigen = ColDestino = FilaDestino = FichaMovida = FichaDestino = 0;
+    AlPasoCaduca = false;
+    Origen.clear();
+    Destino.clear();
+    Ataque = Jaque = Mate = Ahogado = false;
+}
+
+bool ReproduciendoPartida() {
+    return LineasPartida.size() > 1 && !LineasPartida[1].empty();
+}
+
+void RestablecerTodo() {
+    std::memset(Tablero, 0, sizeof Tablero);
+    std::memset(TableroCopia, 0, sizeof TableroCopia);
+    Origen.clear();
+    Destino.clear();
+    ColOrigen = FilaOrigen = ColDestino = FilaDestino = FichaMovida = FichaDestino = 0;
+    MovimientoValido = SoloProbar = false;
+    FilaRaton = ColRaton = 0;
+    AlPasoPosible = false;
+    AlPasoCasilla = 0;
+    AlPasoTexto.clear();
+    AlPasoCaduca = false;
+    TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = false;
+    for (int i = 0; i < 3; ++i) DerechosBlancas[i] = DerechosNegras[i] = false;
+    TipoEnroque = 0;
+    EnroqueIntento = false;
+    Turno = 0;
+    Conectado = MedioTurno = false;
+    NumeroJugada = 0;
+    Ataque = Jaque = Mate = Ahogado = false;
+    ReyCol = ReyFila = FichaGuardada = 0;
+    Atacantes.clear();
+    CasillaJaque.clear();
+    JaqueDescubierto.clear();
+    Capturadores.clear();
+    BuscandoCaptura = CasillaCoincide = OtraPieza = false;
+    OtraCol.clear();
+    OtraFila.clear();
+    PiezaCoronacion = FichaComidaCoronacion = 0;
+    Notacion.clear();
+    NotacionTraducida.clear();
+    LineasPartida.assign(1, std::string());
+    LineaActual = ColorInicio = 0;
+    Cargando = Retrocediendo = DesdePosicion = EditandoTablero = false;
+    TipoPartida.clear();
+    ColorJugador.clear();
+    AlPasoFen.clear();
+    MotorBlancas = MotorNegras = ArrastreCancelado = false;
+    Jugadas::Vaciar();
+}
+
+} // namespace Variables

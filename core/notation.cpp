@@ -1,0 +1,303 @@
+#include "core/notation.h"
+
+#include "core/check_detection.h"
+#include "core/environment.h"
+#include "core/game_state.h"
+#include "core/move_filter.h"
+#include "core/move_list.h"
+
+namespace Variables {
+
+namespace {
+
+char LetraColumna(int col) {
+    return EnCasilla(col) ? char('a' + col - 1) : '?';
+}
+char LetraColumnaMayuscula(int col) {
+    return EnCasilla(col) ? char('A' + col - 1) : '?';
+}
+
+int ValorTexto(const std::string& s) {
+    int v = 0;
+    for (char ch : s) {
+        if (ch < '0' || ch > '9' || v > 100000) break;
+        v = v * 10 + (ch - '0');
+    }
+    return v;
+}
+
+const char* LetraPieza(int32_t p) {
+    switch (p) {
+    case TorreB:
+    case TorreN:
+        return "R";
+    case CaballoB:
+    case CaballoN:
+        return "N";
+    case AlfilB:
+    case AlfilN:
+        return "B";
+    case DamaB:
+    case DamaN:
+        return "Q";
+    case ReyB:
+    case ReyN:
+        return "K";
+    default:
+        return "";
+    }
+}
+
+// Which rights a king's take-back gives back: bit 0 the a-rook, bit 1 the h-rook.
+char DigitoDerechos() {
+    const bool* d = FichaMovida == ReyN ? DerechosNegras : DerechosBlancas;
+    return char('0' + (d[1] ? 0 : 1) + (d[2] ? 0 : 2));
+}
+
+bool EsRey(int32_t p) {
+    return p == ReyB || p == ReyN;
+}
+
+void TextoAlgebraico() {
+    if (PiezaCoronacion >= 2 && PiezaCoronacion <= 5) FichaMovida = PeonB;
+    if (PiezaCoronacion >= 8 && PiezaCoronacion <= 11) FichaMovida = PeonN;
+    Notacion = LetraPieza(FichaMovida);
+    if (Notacion == "B" || Notacion == "N" || Notacion == "R" || Notacion == "Q") Desambiguar();
+
+    const bool ocupado = Tablero[ColDestino][FilaDestino] != 0;
+    if (ocupado && PiezaCoronacion == 0 && (FichaMovida == PeonB || FichaMovida == PeonN))
+        Notacion = std::string(1, LetraColumna(ColOrigen));
+    if (FichaComidaCoronacion != 0) Notacion = std::string(1, LetraColumna(ColOrigen));
+    if (ocupado && PiezaCoronacion == 0) Notacion += "x";
+    if (FichaComidaCoronacion != 0) Notacion += "x";
+    if (!AlPasoTexto.empty()) Notacion = std::string(1, LetraColumna(ColOrigen)) + "x";
+    Notacion += LetraColumna(ColDestino);
+    Notacion += std::to_string(FilaDestino);
+    if (!AlPasoTexto.empty()) Notacion += "ep";
+    if (TipoEnroque == 1) Notacion = "O-O";
+    if (TipoEnroque == 2) Notacion = "O-O-O";
+
+    if (PiezaCoronacion != 0) {
+        switch (PiezaCoronacion) {
+        case TorreB:
+        case TorreN:
+            Notacion += "=R";
+            break;
+        case CaballoB:
+        case CaballoN:
+            Notacion += "=N";
+            break;
+        case AlfilB:
+        case AlfilN:
+            Notacion += "=B";
+            break;
+        case DamaB:
+        case DamaN:
+            Notacion += "=Q";
+            break;
+        default:
+            break;
+        }
+        FichaMovida = PiezaCoronacion;
+    }
+    if (Jaque) Notacion += "+";
+    if (Mate) Notacion += "+";
+}
+
+// Walks for a rival of the moving piece; clears OtraPieza first.
+template <typename Walker>
+bool Buscar(Walker walker, int col, int fila, int32_t codigo, bool bandera) {
+    OtraPieza = false;
+    walker(col, fila, codigo);
+    if (OtraPieza) ProbarOtra(bandera);
+    return OtraPieza;
+}
+
+} // namespace
+
+std::string RegistroDeshacer() {
+    std::string c = std::to_string(ColOrigen) + std::to_string(FilaOrigen) +
+                    std::to_string(ColDestino) + std::to_string(FilaDestino);
+    const int32_t destino = Tablero[ColDestino][FilaDestino];
+    // The first case that fits, top down: odd moves (a castling king landing
+    // on a piece, en passant onto a piece) take the capture form.
+    if (destino == 0 && TipoEnroque == 0 && AlPasoTexto.empty() && PiezaCoronacion == 0)
+        return EsRey(FichaMovida) ? c + "t" + DigitoDerechos() : c;
+    if (destino != 0 && PiezaCoronacion == 0) {
+        c += "x" + std::to_string(destino);
+        if (EsRey(FichaMovida)) c += std::string("t") + DigitoDerechos();
+        return c;
+    }
+    if (TipoEnroque != 0) return c + "e" + DigitoDerechos();
+    if (!AlPasoTexto.empty()) return c + "p" + AlPasoTexto;
+    c += "c" + std::to_string(FichaMovida);
+    if (FichaComidaCoronacion != 0) c += "x" + std::to_string(FichaComidaCoronacion);
+    return c;
+}
+
+void EscribirJugada() {
+    const bool mostrar = !entorno().ListaPgnVisible();
+    if (!MedioTurno) ++NumeroJugada;
+    if (mostrar) {
+        Jugadas::List[4] += std::to_string(ColOrigen) + std::to_string(FilaOrigen) +
+                            std::to_string(ColDestino) + std::to_string(FilaDestino);
+        if (PiezaCoronacion != 0) Jugadas::List[4] += std::to_string(PiezaCoronacion);
+        Jugadas::List[4] += Jugadas::FinLinea;
+    }
+    if (ColOrigen != 0 && FilaOrigen != 0 && ColDestino != 0 && FilaDestino != 0)
+        Jugadas::List1.push_back(RegistroDeshacer());
+
+    Notacion.clear();
+    TextoAlgebraico();
+    if (mostrar) Jugadas::AnotarLista(Notacion, 3);
+    TraducirNotacion(Notacion, LetrasEspanol);
+    if (mostrar) Jugadas::AnotarLista(NotacionTraducida, 2);
+    TraducirNotacion(Notacion, LetrasUsuario);
+    if (mostrar) Jugadas::AnotarLista(NotacionTraducida, 5);
+
+    Notacion.clear();
+    if (mostrar) {
+        Notacion += LetraColumnaMayuscula(ColOrigen);
+        Notacion += std::to_string(FilaOrigen);
+        Notacion += "-";
+        Notacion += LetraColumnaMayuscula(ColDestino);
+        Notacion += std::to_string(FilaDestino);
+        Jugadas::AnotarLista(Notacion, 1);
+    }
+    MedioTurno = !MedioTurno;
+}
+
+void TraducirNotacion(const std::string& texto, const std::string (&letras)[7]) {
+    NotacionTraducida.clear();
+    for (size_t i = 0; i < texto.size(); ++i) {
+        switch (texto[i]) {
+        case 'B':
+            NotacionTraducida += letras[3];
+            break;
+        case 'N':
+            NotacionTraducida += letras[2];
+            break;
+        case 'R':
+            NotacionTraducida += letras[1];
+            break;
+        case 'Q':
+            NotacionTraducida += letras[4];
+            break;
+        case 'K':
+            NotacionTraducida += letras[5];
+            break;
+        case 'e':
+            if (i + 1 < texto.size() && texto[i + 1] == 'p') {
+                NotacionTraducida += letras[6];
+                ++i;
+                break;
+            }
+            [[fallthrough]];
+        default:
+            NotacionTraducida += texto[i];
+            break;
+        }
+    }
+}
+
+void PonerFila() {
+    Notacion += std::to_string(FilaOrigen);
+}
+void PonerColumna() {
+    Notacion += LetraColumna(ColOrigen);
+}
+
+void Desambiguar() {
+    CopiarTablero();
+    TableroCopia[ColOrigen][FilaOrigen] = 0;
+    TableroCopia[ColDestino][FilaDestino] = 0;
+
+    const std::string letra = Notacion;
+    int32_t codigo = 0;
+    if (Turno == 1 || Turno == 2) {
+        const bool blanco = Turno == 1;
+        if (letra == "N") codigo = blanco ? CaballoB : CaballoN;
+        if (letra == "R") codigo = blanco ? TorreB : TorreN;
+        if (letra == "Q") codigo = blanco ? DamaB : DamaN;
+        if (letra == "B") codigo = blanco ? AlfilB : AlfilN;
+    }
+    auto otraCol = [] { return ValorTexto(OtraCol); };
+    auto otraFila = [] { return ValorTexto(OtraFila); };
+    auto nadaAnadido = [&] { return Notacion == letra; };
+    auto comoAlfil = [&] {
+        if (otraFila() != FilaOrigen && otraCol() == ColOrigen) PonerFila();
+        if (otraCol() != ColOrigen) PonerColumna();
+    };
+    auto segundaRecta = [&] {
+        if (otraFila() != FilaDestino && otraCol() == ColOrigen) PonerFila();
+        if (otraCol() != ColDestino && otraFila() == FilaDestino) PonerColumna();
+        if (nadaAnadido() && otraCol() == ColDestino && otraFila() != FilaDestino) PonerColumna();
+    };
+
+    if (letra == "N") {
+        if (Buscar(AlcanceCaballo, ColDestino, FilaDestino, codigo, false)) {
+            if (otraCol() == ColOrigen)
+                PonerFila();
+            else
+                PonerColumna();
+        }
+    } else if (letra == "B") {
+        if (Buscar(AlcanceDiagonal, ColDestino, FilaDestino, codigo, false)) comoAlfil();
+    } else if (letra == "R") {
+        if (Buscar(AlcanceRecto, ColOrigen, FilaOrigen, codigo, true)) {
+            if (otraFila() != FilaOrigen && otraCol() == ColOrigen) PonerFila();
+            if (otraCol() != ColDestino && otraFila() == FilaDestino) PonerColumna();
+            if (nadaAnadido() && otraCol() != ColDestino && otraFila() != FilaDestino)
+                PonerColumna();
+        }
+        if (nadaAnadido() && Buscar(AlcanceRecto, ColDestino, FilaDestino, codigo, false))
+            segundaRecta();
+    } else if (letra == "Q") {
+        if (Buscar(AlcanceRecto, ColOrigen, FilaOrigen, codigo, true)) {
+            if (otraFila() != FilaOrigen && otraCol() == ColOrigen) PonerFila();
+            if (nadaAnadido() && otraCol() != ColDestino) PonerColumna();
+        }
+        if (nadaAnadido() && Buscar(AlcanceRecto, ColDestino, FilaDestino, codigo, false))
+            segundaRecta();
+        if (nadaAnadido() && Buscar(AlcanceDiagonal, ColDestino, FilaDestino, codigo, false))
+            comoAlfil();
+    }
+}
+
+void ProbarOtra(bool bandera) {
+    const int co = ColOrigen, fo = FilaOrigen, cd = ColDestino, fd = FilaDestino;
+    const int oc = ValorTexto(OtraCol), of = ValorTexto(OtraFila);
+    if (bandera && (Notacion == "R" || Notacion == "T")) {
+        if (FilaOrigen == FilaDestino) FilaDestino = of;
+        if (ColOrigen == ColDestino) ColDestino = oc;
+    }
+    ColOrigen = oc;
+    FilaOrigen = of;
+    // The rival's walk must stay on the board for the rules to read it.
+    if (!EnCasilla(ColOrigen) || !EnCasilla(FilaOrigen) || !EnCasilla(ColDestino) ||
+        !EnCasilla(FilaDestino)) {
+        ColOrigen = co, FilaOrigen = fo, ColDestino = cd, FilaDestino = fd;
+        OtraPieza = false;
+        MovimientoValido = true;
+        return;
+    }
+    ReglasPieza();
+    if (!MovimientoValido) {
+        ColOrigen = co, FilaOrigen = fo, ColDestino = cd, FilaDestino = fd;
+        OtraPieza = false;
+        MovimientoValido = true;
+        return;
+    }
+    Ataque = false;
+    ProbarReyPropio();
+    ColOrigen = co;
+    FilaOrigen = fo;
+    ColDestino = cd;
+    FilaDestino = fd;
+    if (Ataque) {
+        OtraPieza = false;
+        Ataque = false;
+    }
+}
+
+} // namespace Variables

@@ -1,0 +1,257 @@
+#include "shell/cli/cli_session.h"
+
+#include "core/environment.h"
+#include "core/game_state.h"
+#include "core/local_move.h"
+#include "core/move_filter.h"
+#include "core/move_list.h"
+#include "core/takeback.h"
+
+#include <algorithm>
+#include <cctype>
+#include <charconv>
+#include <map>
+#include <ostream>
+
+using namespace Variables;
+
+namespace {
+
+std::string Bandera(bool b) {
+    return b ? "-1" : "0";
+}
+
+std::string Minusculas(std::string s) {
+    std::transform(s.begin(), s.end(), s.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return s;
+}
+
+using Lector = std::function<std::string()>;
+
+// The scalar variables of the shared state, by name.
+const std::map<std::string, Lector>& TablaVariables() {
+    static const std::map<std::string, Lector> tabla = [] {
+        std::map<std::string, Lector> t;
+        auto b = [&](const char* n, const bool& v) {
+            t[Minusculas(n)] = [&v] { return Bandera(v); };
+        };
+        auto i = [&](const char* n, const auto& v) {
+            t[Minusculas(n)] = [&v] { return std::to_string(v); };
+        };
+        auto s = [&](const char* n, const std::string& v) {
+            t[Minusculas(n)] = [&v] { return v; };
+        };
+        s("Origen", Origen);
+        s("Destino", Destino);
+        i("ColOrigen", ColOrigen);
+        i("FilaOrigen", FilaOrigen);
+        i("ColDestino", ColDestino);
+        i("FilaDestino", FilaDestino);
+        i("FichaMovida", FichaMovida);
+        i("FichaDestino", FichaDestino);
+        b("MovimientoValido", MovimientoValido);
+        b("SoloProbar", SoloProbar);
+        i("FilaRaton", FilaRaton);
+        i("ColRaton", ColRaton);
+        b("AlPasoPosible", AlPasoPosible);
+        i("AlPasoCasilla", AlPasoCasilla);
+        s("AlPasoTexto", AlPasoTexto);
+        b("AlPasoCaduca", AlPasoCaduca);
+        b("TorreA1Movida", TorreA1Movida);
+        b("TorreH1Movida", TorreH1Movida);
+        b("TorreA8Movida", TorreA8Movida);
+        b("TorreH8Movida", TorreH8Movida);
+        b("DerechosBlancas(1)", DerechosBlancas[1]);
+        b("DerechosBlancas(2)", DerechosBlancas[2]);
+        b("DerechosNegras(1)", DerechosNegras[1]);
+        b("DerechosNegras(2)", DerechosNegras[2]);
+        i("TipoEnroque", TipoEnroque);
+        b("EnroqueIntento", EnroqueIntento);
+        i("Turno", Turno);
+        b("Conectado", Conectado);
+        b("MedioTurno", MedioTurno);
+        i("NumeroJugada", NumeroJugada);
+        b("Ataque", Ataque);
+        b("Jaque", Jaque);
+        b("Mate", Mate);
+        b("Ahogado", Ahogado);
+        i("ReyCol", ReyCol);
+        i("ReyFila", ReyFila);
+        i("FichaGuardada", FichaGuardada);
+        s("Atacantes", Atacantes);
+        s("CasillaJaque", CasillaJaque);
+        s("JaqueDescubierto", JaqueDescubierto);
+        s("Capturadores", Capturadores);
+        b("BuscandoCaptura", BuscandoCaptura);
+        b("CasillaCoincide", CasillaCoincide);
+        b("OtraPieza", OtraPieza);
+        s("OtraCol", OtraCol);
+        s("OtraFila", OtraFila);
+        i("PiezaCoronacion", PiezaCoronacion);
+        i("FichaComidaCoronacion", FichaComidaCoronacion);
+        s("Notacion", Notacion);
+        s("NotacionTraducida", NotacionTraducida);
+        i("LineaActual", LineaActual);
+        i("ColorInicio", ColorInicio);
+        b("Cargando", Cargando);
+        b("Retrocediendo", Retrocediendo);
+        b("DesdePosicion", DesdePosicion);
+        b("EditandoTablero", EditandoTablero);
+        s("TipoPartida", TipoPartida);
+        s("ColorJugador", ColorJugador);
+        s("AlPasoFen", AlPasoFen);
+        b("MotorBlancas", MotorBlancas);
+        b("MotorNegras", MotorNegras);
+        return t;
+    }();
+    return tabla;
+}
+
+// Splits "move 5254" into the command and its argument, trimming blanks.
+void Partir(const std::string& linea, std::string& orden, std::string& resto) {
+    size_t a = linea.find_first_not_of(" \t\r");
+    if (a == std::string::npos) {
+        orden.clear();
+        resto.clear();
+        return;
+    }
+    size_t b = linea.find_first_of(" \t\r", a);
+    orden = linea.substr(a, b == std::string::npos ? std::string::npos : b - a);
+    resto.clear();
+    if (b == std::string::npos) return;
+    size_t c = linea.find_first_not_of(" \t", b);
+    if (c == std::string::npos) return;
+    resto = linea.substr(c);
+    while (!resto.empty() && (resto.back() == '\r' || resto.back() == ' ' || resto.back() == '\t'))
+        resto.pop_back();
+}
+
+} // namespace
+
+// Message boxes become lines on standard error; the promotion form takes its default.
+class SesionCli::Entorno : public EntornoRegistro {
+public:
+    Entorno(std::ostream& errores, Traductor& traductor)
+        : errores_(errores), traductor_(traductor) {}
+    void MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones,
+                        int extra) override {
+        EntornoRegistro::MostrarMensaje(titulo, texto, icono, botones, extra);
+        errores_ << "message " << titulo << ": " << (traductor_ ? traductor_(texto) : texto)
+                 << std::endl;
+    }
+
+private:
+    std::ostream& errores_;
+    Traductor& traductor_;
+};
+
+SesionCli::SesionCli(std::ostream& salida, std::ostream& errores, Traductor traductor)
+    : salida_(salida), errores_(errores), traductor_(std::move(traductor)),
+      entorno_(new Entorno(errores_, traductor_)) {
+    InstalarEntorno(entorno_);
+}
+
+SesionCli::~SesionCli() {
+    InstalarEntorno(nullptr);
+    delete entorno_;
+}
+
+void SesionCli::Ejecutar(const std::string& linea) {
+    std::string orden, arg;
+    Partir(linea, orden, arg);
+    if (orden.empty() || orden[0] == '#') return;
+
+    if (orden == "new" && arg.empty()) {
+        VariablesCero();
+        Jugadas::Vaciar();
+        PonerFichas();
+        Turno = 1;
+        salida_ << "ok\n";
+    } else if (orden == "move") {
+        Mover(arg);
+    } else if (orden == "probe") {
+        Probar(arg);
+    } else if (orden == "takeback" && arg.empty()) {
+        RetrocesoFuncion();
+        salida_ << "ok\n";
+    } else if (orden == "get") {
+        Obtener(arg);
+    } else if (orden == "board" && arg.empty()) {
+        for (int f = 8; f >= 1; --f) {
+            for (int c = 1; c <= 8; ++c) salida_ << (c > 1 ? " " : "") << Tablero[c][f];
+            salida_ << '\n';
+        }
+        salida_ << ".\n";
+    } else if (orden == "list") {
+        Lista(arg);
+    } else if (orden == "undo" && arg.empty()) {
+        for (const auto& r : Jugadas::List1) salida_ << r << '\n';
+        salida_ << ".\n";
+    } else {
+        salida_ << "error unknown command: " << orden << '\n';
+    }
+    salida_.flush();
+}
+
+void SesionCli::Mover(const std::string& arg) {
+    int32_t pieza = 0;
+    if (arg.size() < 4) {
+        salida_ << "error move needs OODD\n";
+        return;
+    }
+    if (arg.size() > 4) {
+        const char* ini = arg.data() + 4;
+        const char* fin = arg.data() + arg.size();
+        auto [p, ec] = std::from_chars(ini, fin, pieza);
+        if (ec != std::errc() || p != fin || *ini == '-' || *ini == '+') {
+            salida_ << "error bad promotion piece\n";
+            return;
+        }
+    }
+    if (Turno == 0) {
+        salida_ << "ignored\n";
+        return;
+    }
+    Respuesta r = SoltarFicha(arg.substr(0, 2), arg.substr(2, 2), pieza);
+    if (r.tipo != Respuesta::Legal) {
+        salida_ << "refused\n";
+        return;
+    }
+    salida_ << "legal" << (r.jaque ? " check" : "") << (r.mate ? " mate" : "")
+            << (r.ahogado ? " stalemate" : "") << '\n';
+}
+
+void SesionCli::Probar(const std::string& arg) {
+    if (arg.size() != 4) {
+        salida_ << "error probe needs OODD\n";
+        return;
+    }
+    Origen = arg.substr(0, 2);
+    Destino = arg.substr(2, 2);
+    SoloProbar = true;
+    FiltroMovimiento();
+    SoloProbar = false;
+    const bool legal = MovimientoValido;
+    MovimientoAnulado();
+    salida_ << (legal ? "legal" : "refused") << '\n';
+}
+
+void SesionCli::Obtener(const std::string& nombre) {
+    const auto& tabla = TablaVariables();
+    auto it = tabla.find(Minusculas(nombre));
+    if (it == tabla.end()) {
+        salida_ << "error unknown variable: " << nombre << '\n';
+        return;
+    }
+    salida_ << it->second() << '\n';
+}
+
+void SesionCli::Lista(const std::string& arg) {
+    if (arg.size() != 1 || arg[0] < '1' || arg[0] > '5') {
+        salida_ << "error list needs a number from 1 to 5\n";
+        return;
+    }
+    for (const auto& l : Jugadas::Lineas(arg[0] - '0')) salida_ << l << '\n';
+    salida_ << ".\n";
+}
