@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Checks the shipped data files: settings, language files, sounds and skins.
-# Usage: check_data.sh DATA_DIR
+# Usage: check_data.sh DATA_DIR [PIECES_DIR]
 set -u
 export LC_ALL=C
 D=${1:?data folder}
+P=${2:-}
 fails=0
 fail() { echo "FAIL: $*"; fails=$((fails + 1)); }
 
@@ -171,7 +172,32 @@ for dir in "$D"/apariencias/*/; do
     fi
   done
   [ "$w0" = "$h0" ] || fail "$dir pictures are not square"
+  # The masked drawing needs a mask of pure black and white, and a piece that is black
+  # wherever its mask is white (checked for 24-bit BMP files, whose pixels start at the offset in byte 10).
+  if [ "${ext,,}" = bmp ]; then
+    for n in "${names[@]}"; do
+      pc="$dir$n.$ext"; mk="$dir${n}f.$ext"
+      [ -f "$pc" ] && [ -f "$mk" ] || continue
+      [ "$(od -An -t u2 -j 28 -N 2 "$mk" | tr -d ' ')" = 24 ] || continue
+      paste <(od -An -v -t u1 -w3 -j "$(le32 "$mk" 10)" "$mk") <(od -An -v -t u1 -w3 -j "$(le32 "$pc" 10)" "$pc") |
+        awk -v f="$n" '{ m = $1 + $2 + $3 }
+          m != 0 && m != 765 { grey++ }
+          m == 765 && $4 + $5 + $6 != 0 { spill++ }
+          END { if (grey) print "FAIL: mask of " f " has " grey " pixels neither black nor white"
+                if (spill) print "FAIL: " f " has " spill " coloured pixels outside its mask"
+                exit (grey + spill) > 0 }' || fails=$((fails + 1))
+    done
+  fi
 done
+
+# ---------------------------------------------------------------- built-in pieces
+if [ -n "$P" ]; then
+  for n in "${names[@]}" cuadrob cuadron; do
+    f="$P/$n.svg"
+    [ -f "$f" ] || { fail "built-in picture $n.svg is missing"; continue; }
+    grep -q '<svg[^>]*viewBox="0 0 45 45"' "$f" && grep -q '</svg>' "$f" || fail "$f is not a whole 45x45 SVG"
+  done
+fi
 
 if [ "$fails" -gt 0 ]; then echo "$fails check(s) failed"; exit 1; fi
 echo "data files OK"
