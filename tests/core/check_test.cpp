@@ -20,8 +20,8 @@ const Caso kCasos[] = {
     {"double check with no king square is mate", "6rk/6p1/7N/8/8/8/8/6KR", 1, "h6f7", true, true,
      false},
     {"king takes an unprotected checker", "Q6k/6pp/8/8/8/8/8/6K1", 1, "a8g8", true, false, false},
-    {"blocked pawn and no king square is stalemate", "7k/7P/5K2/8/8/8/8/8", 1, "f6g6", false,
-     false, true},
+    {"blocked pawn and no king square is stalemate", "7k/7P/5K2/8/8/8/8/8", 1, "f6g6", false, false,
+     true},
     {"a pawn double step cannot block: mate", "8/3p4/1R6/7k/1R6/8/8/R1K5", 1, "a1a5", true, true,
      false},
     {"the capturer is pinned: mate", "6rk/8/4N3/8/3r1R2/8/1B6/1K6", 1, "f4h4", true, true, false},
@@ -34,10 +34,10 @@ const Caso kCasos[] = {
      "3qkb2/3p1p2/8/4N3/8/8/8/K3R3", 1, "e5c4", true, true, false},
     {"a pinned knight with room is no stalemate", "k1K5/1n6/8/1N6/8/8/8/7B", 1, "c8c7", false,
      false, false},
-    {"a block by a rook going west is not seen: mate", "kr6/1p6/8/8/8/7r/4K3/3R4", 1, "d1a1",
-     true, true, false},
-    {"interposition found but every capture trial fails: mate", "4b1rk/8/4N3/8/3r1R2/8/1B6/1K6",
-     1, "f4h4", true, true, false},
+    {"a block by a rook going west is not seen: mate", "kr6/1p6/8/8/8/7r/4K3/3R4", 1, "d1a1", true,
+     true, false},
+    {"interposition found but every capture trial fails: mate", "4b1rk/8/4N3/8/3r1R2/8/1B6/1K6", 1,
+     "f4h4", true, true, false},
 };
 
 class Veredicto : public prueba::Partida, public ::testing::WithParamInterface<Caso> {};
@@ -55,13 +55,12 @@ TEST_P(Veredicto, AsThisSystemJudges) {
     EXPECT_EQ(Ahogado, c.ahogado);
 }
 
-INSTANTIATE_TEST_SUITE_P(Casos, Veredicto, ::testing::ValuesIn(kCasos),
-                         [](const auto& info) {
-                             std::string n;
-                             for (const char* p = info.param.nombre; *p; ++p)
-                                 n += std::isalnum(static_cast<unsigned char>(*p)) ? *p : '_';
-                             return n;
-                         });
+INSTANTIATE_TEST_SUITE_P(Casos, Veredicto, ::testing::ValuesIn(kCasos), [](const auto& info) {
+    std::string n;
+    for (const char* p = info.param.nombre; *p; ++p)
+        n += std::isalnum(static_cast<unsigned char>(*p)) ? *p : '_';
+    return n;
+});
 
 class Mates : public prueba::Partida {};
 

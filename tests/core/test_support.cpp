@@ -13,7 +13,9 @@ std::string Casilla(const std::string& a) {
     return std::string(1, char('1' + (a.at(0) - 'a'))) + a.at(1);
 }
 
-std::string Jugada(const std::string& a) { return Casilla(a.substr(0, 2)) + Casilla(a.substr(2, 2)); }
+std::string Jugada(const std::string& a) {
+    return Casilla(a.substr(0, 2)) + Casilla(a.substr(2, 2));
+}
 
 void Partida::SetUp() {
     InstalarEntorno(&entorno);
@@ -72,7 +74,9 @@ bool Partida::Probar(const std::string& a) {
     return legal;
 }
 
-int32_t Partida::En(const std::string& a) const { return Tablero[a.at(0) - 'a' + 1][a.at(1) - '0']; }
+int32_t Partida::En(const std::string& a) const {
+    return Tablero[a.at(0) - 'a' + 1][a.at(1) - '0'];
+}
 
 std::string Partida::Ultima(int lista) const {
     auto lineas = Jugadas::Lineas(lista);
