@@ -37,6 +37,13 @@ public:
     // The peer and the engine, once they exist.
     virtual void EnviarMensaje(const std::string& /*texto*/) {}
     virtual void GenerarMovimiento() {}
+
+    // Opening a position as a new game.
+    virtual void CerrarListaPgn() {}
+    virtual void ReiniciarRelojes() {}
+    // Over the network: which side the local player takes, 1 or 2.
+    virtual int PreguntarColorRed() { return 1; }
+    virtual void EnviarPosicionRed() {}
 };
 
 // A headless environment: promotion takes the form's default (or a preset

@@ -10,11 +10,16 @@ namespace Variables {
 
 namespace {
 
-char LetraColumna(int col) {
-    return EnCasilla(col) ? char('a' + col - 1) : '?';
+// A line written with no move in it (a position with Black to move) shows
+// nothing where the squares would be.
+std::string LetraColumna(int col) {
+    return EnCasilla(col) ? std::string(1, char('a' + col - 1)) : std::string();
 }
-char LetraColumnaMayuscula(int col) {
-    return EnCasilla(col) ? char('A' + col - 1) : '?';
+std::string LetraColumnaMayuscula(int col) {
+    return EnCasilla(col) ? std::string(1, char('A' + col - 1)) : std::string();
+}
+std::string DigitoFila(int fila) {
+    return EnCasilla(fila) ? std::to_string(fila) : std::string();
 }
 
 int ValorTexto(const std::string& s) {
@@ -66,13 +71,13 @@ void TextoAlgebraico() {
 
     const bool ocupado = Tablero[ColDestino][FilaDestino] != 0;
     if (ocupado && PiezaCoronacion == 0 && (FichaMovida == PeonB || FichaMovida == PeonN))
-        Notacion = std::string(1, LetraColumna(ColOrigen));
-    if (FichaComidaCoronacion != 0) Notacion = std::string(1, LetraColumna(ColOrigen));
+        Notacion = LetraColumna(ColOrigen);
+    if (FichaComidaCoronacion != 0) Notacion = LetraColumna(ColOrigen);
     if (ocupado && PiezaCoronacion == 0) Notacion += "x";
     if (FichaComidaCoronacion != 0) Notacion += "x";
-    if (!AlPasoTexto.empty()) Notacion = std::string(1, LetraColumna(ColOrigen)) + "x";
+    if (!AlPasoTexto.empty()) Notacion = LetraColumna(ColOrigen) + "x";
     Notacion += LetraColumna(ColDestino);
-    Notacion += std::to_string(FilaDestino);
+    Notacion += DigitoFila(FilaDestino);
     if (!AlPasoTexto.empty()) Notacion += "ep";
     if (TipoEnroque == 1) Notacion = "O-O";
     if (TipoEnroque == 2) Notacion = "O-O-O";
@@ -157,11 +162,9 @@ void EscribirJugada() {
 
     Notacion.clear();
     if (mostrar) {
-        Notacion += LetraColumnaMayuscula(ColOrigen);
-        Notacion += std::to_string(FilaOrigen);
-        Notacion += "-";
-        Notacion += LetraColumnaMayuscula(ColDestino);
-        Notacion += std::to_string(FilaDestino);
+        if (ColOrigen || FilaOrigen || ColDestino || FilaDestino)
+            Notacion = LetraColumnaMayuscula(ColOrigen) + DigitoFila(FilaOrigen) + "-" +
+                       LetraColumnaMayuscula(ColDestino) + DigitoFila(FilaDestino);
         Jugadas::AnotarLista(Notacion, 1);
     }
     MedioTurno = !MedioTurno;

@@ -6,6 +6,7 @@
 #include "core/move_filter.h"
 #include "core/move_list.h"
 #include "core/takeback.h"
+#include "files/fen.h"
 
 #include <algorithm>
 #include <cctype>
@@ -185,6 +186,12 @@ void SesionCli::Ejecutar(const std::string& linea) {
         salida_ << ".\n";
     } else if (orden == "list") {
         Lista(arg);
+    } else if (orden == "fen" && arg.empty()) {
+        EscribirFen();
+        salida_ << TextoFen << '\n';
+    } else if (orden == "setfen" && !arg.empty()) {
+        PosicionFen = arg;
+        salida_ << (AbrirEpd() ? "ok" : "refused") << '\n';
     } else if (orden == "undo" && arg.empty()) {
         for (const auto& r : Jugadas::List1) salida_ << r << '\n';
         salida_ << ".\n";

@@ -1,0 +1,27 @@
+#pragma once
+// Positions as one text line in the manner of FEN. The castling letters are
+// this system's own: upper case speaks of Black's rooks, lower case of
+// White's, and "K" is the a-rook. Two copies of the program agree on it.
+
+#include <array>
+#include <cstdint>
+#include <string>
+
+namespace Variables {
+
+inline std::string TextoFen;    // the last line written
+inline std::string PosicionFen; // the position AbrirEpd opens
+
+// Row 8 to row 1, column 1 to 8 within a row; piece codes as digits.
+using CasillasFen = std::array<std::string, 64>;
+
+void EscribirFen();
+// True if the line was accepted. A refused castling field has already
+// changed ColorInicio and the rook flags, as it always has.
+bool LeerFen(const std::string& linea);
+std::string FichaTexto(int32_t codigo);
+// Opens PosicionFen as a new local (or network) game. Returns LeerFen's
+// answer, which the opening itself does not look at.
+bool AbrirEpd();
+
+} // namespace Variables
