@@ -1,11 +1,35 @@
+#include "platform/ini_file.h"
+#include "platform/programa.h"
+#include "platform/texto.h"
 #include "shell/cli/cli_session.h"
+#include "shell/idioma.h"
 
+#include <filesystem>
 #include <iostream>
 #include <string>
 
+namespace {
+
+// The message texts of the language the settings beside the program name;
+// without them a message shows its number.
+bool CargarIdioma() {
+    std::error_code ec;
+    auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
+    if (ec) return false;
+    qa::FijarDirectorioPrograma(exe.parent_path().string());
+    std::string idioma = qa::LeerIni(qa::FicheroOpciones, "Configuracion", "Idioma");
+    if (idioma.empty()) idioma = "Español";
+    qa::FijarIdioma(qa::Minusculas(idioma) + ".lng");
+    return qa::LeerTextosIdioma();
+}
+
+} // namespace
+
 int main() {
     std::ios::sync_with_stdio(false);
-    SesionCli sesion(std::cout, std::cerr);
+    SesionCli::Traductor traductor;
+    if (CargarIdioma()) traductor = [](const std::string& t) { return qa::TextoMensaje(t); };
+    SesionCli sesion(std::cout, std::cerr, traductor);
     std::string linea;
     while (std::getline(std::cin, linea)) sesion.Ejecutar(linea);
     return 0;
