@@ -1,11 +1,18 @@
-#include <QApplication>
-#include <QLabel>
+#include "shell/arranque.h"
 
-// Stand-in window until the application shell lands.
+#include <QApplication>
+#include <string>
+#include <vector>
+
 int main(int argc, char** argv) {
     QApplication app(argc, argv);
-    QLabel label("Quintarena");
-    label.resize(320, 120);
-    label.show();
-    return app.exec();
+    app.setApplicationName("Quintarena");
+    // The close handler decides when the program ends, not the last window.
+    app.setQuitOnLastWindowClosed(false);
+    std::vector<std::string> argumentos;
+    for (const QString& a : QCoreApplication::arguments()) argumentos.push_back(a.toStdString());
+    int codigo = 0;
+    if (qa::Main(argumentos)) codigo = app.exec();
+    qa::LiberarFormularios();
+    return codigo;
 }

@@ -1,0 +1,40 @@
+#pragma once
+// "Default.ini": read into the controls and menu checks at start, written back from them at the
+// close. There are no defaults in the program: the shipped file is the default.
+#include <string>
+
+namespace qa {
+
+struct Lugar {
+    double top = 0, left = 0, width = 0, height = 0; // twips
+};
+
+// Values that belong to forms of later parts (new game, engine levels, colours, PGN browser).
+// They stand here so the settings make the round trip until those forms hold them.
+struct ControlesPendientes {
+    std::string Nick;
+    std::string NuevoText1; // minutes of a new game
+    std::string Level2Text1, Level2Text2, Level2Text3, Level2Combo1;
+    int Level2Option = 0;
+    int Fondo = 1; // 1 coloured backgrounds, 2 system colour
+    long ColorR = 0, ColorG = 0, ColorB = 0;
+    std::string AutoPlay, Dir, Tipo;
+    Lugar ListaPgn, PgnMovimientos, Cpu, Epd;
+};
+ControlesPendientes& Controles();
+
+bool ExisteFichero(const std::string& fichero);
+bool LiberarFichero(const std::string& fichero);
+
+// The whole read of the settings file; a bad value leaves its control as it was.
+void LeerOpciones();
+// "255:0:0": one character at a time, as the settings have always been read.
+void LeerColor(const std::string& valor, long& r, long& g, long& b);
+
+// The writes of the close, in the order of the file's table.
+void GuardarOpciones();
+
+// A setting that reads 0 or 1; anything else is nothing.
+int LeerBandera(const std::string& seccion, const std::string& clave);
+
+} // namespace qa

@@ -1,0 +1,39 @@
+#pragma once
+// What the later parts of the program plug into the shell: loaders, the network and engine
+// state, and the commands of the menu. An empty hook is a part that has not landed yet; the
+// shell then does nothing in its place.
+#include <functional>
+#include <map>
+#include <string>
+
+namespace qa {
+
+struct Enlaces {
+    // Loaders of the three file types (Parts on game files and browsers).
+    std::function<void(const std::string&)> CargarPgn, AbrirQtr, AbrirEpd;
+
+    // State owned by other forms and by the network layer.
+    std::function<bool()> Conectado, ListaPgnVisible, CpuVisible, SetTableroVisible;
+    std::function<bool()> ConexionCommand1Enabled, ModoEdicion, Cargando;
+    std::function<std::string()> NombreRemoto;
+
+    // Steps of the close and the load that belong to other parts.
+    std::function<void()> CerrarMotores, DescargarDLL, CerrarSockets, Desconectar, CambiarNick;
+    std::function<void()> CargarImagenes, NotacionCambiada, PointClickCambiado, PintarFondos;
+    std::function<int()> AlturaFichas; // height of the piece buffers, for the size setting
+    std::function<void()> CambiarTamano, RepintarPaleta;
+
+    // Commands of the menu by the name of their entry ("mnuGuardarPartida", ...).
+    std::map<std::string, std::function<void()>> Comandos;
+};
+
+Enlaces& Enlace();
+
+inline bool Cierto(const std::function<bool()>& f) {
+    return f && f();
+}
+inline void Ejecutar(const std::function<void()>& f) {
+    if (f) f();
+}
+
+} // namespace qa

@@ -1,0 +1,71 @@
+// The language of the forms: every caption, menu and message comes from the current file.
+#include "platform/ini_file.h"
+#include "platform/programa.h"
+#include "platform/texto.h"
+#include "shell/arranque.h"
+#include "shell/chat.h"
+#include "shell/configuracion.h"
+#include "shell/formularios.h"
+#include "shell/idioma.h"
+#include "shell/jugadas.h"
+#include "shell/mdi.h"
+#include "shell/opciones.h"
+#include "shell/quintarena.h"
+#include "shell/ranking.h"
+#include "shell/reloj.h"
+#include "shell/servicios.h"
+#include "shell/splash.h"
+#include "shell/ventanas.h"
+
+namespace qa {
+
+void Idioma() {
+    auto& f = Forms();
+    if (!LeerTextosIdioma()) {
+        MostrarMensaje("Quintarena", "Versión del idioma incorrecto.", kIconoInformacion);
+        SituarVentanas();
+        TerminarPrograma();
+        return;
+    }
+    std::string titulo = std::string("Quintarena") + " Versión " + kVersionIdioma;
+    if (!AutorIdioma().empty()) titulo += " - " + AutorIdioma();
+    if (f.mdi) {
+        f.mdi->setWindowTitle(QString::fromStdString(titulo));
+        f.mdi->AplicarIdioma();
+    }
+    if (f.quintarena) f.quintarena->AplicarIdioma();
+    if (f.reloj) f.reloj->AplicarIdioma();
+    if (f.jugadas) f.jugadas->AplicarIdioma();
+    if (f.chat) f.chat->AplicarIdioma();
+    if (f.opciones) f.opciones->AplicarIdioma();
+    if (f.ranking) f.ranking->AplicarIdioma();
+    if (f.splash) f.splash->AplicarIdioma();
+}
+
+void CambiarIdioma() {
+    Opciones* op = Forms().opciones;
+    if (!op) return;
+    const std::string texto = op->TextoIdioma();
+    const auto idiomas = op->Idiomas();
+    // Entry 0 is not looked at: the file named last by the listing stays current for it.
+    for (std::size_t i = 1; i < idiomas.size(); ++i) {
+        if (idiomas[i].compare(0, texto.size(), texto) != 0) continue;
+        op->FijarTextoIdioma(idiomas[i]);
+        FijarIdioma(Minusculas(idiomas[i].substr(0, texto.size()) + ".lng"));
+    }
+    if (!ExisteFichero(FicheroIdioma)) {
+        TerminarPrograma();
+        return;
+    }
+    Idioma();
+}
+
+void AvisarIdiomaIncorrecto() {
+    MostrarMensaje("Quintarena", "Fichero de idioma incorrecto." + FinLinea + "Cambie el fíchero.",
+                   kIconoInformacion);
+    // The plain name, in the current folder, as it has always been written.
+    EscribirIni("Default.ini", "Configuracion", "Idioma", "Español");
+    if (Forms().opciones) Forms().opciones->FijarTextoIdioma("Español");
+}
+
+} // namespace qa

@@ -1,0 +1,187 @@
+#include "shell/opciones.h"
+
+#include "platform/ini_file.h"
+#include "platform/programa.h"
+#include "platform/ruta.h"
+#include "platform/texto.h"
+#include "shell/arranque.h"
+#include "shell/enlaces.h"
+#include "shell/formularios.h"
+#include "shell/idioma.h"
+#include "shell/mdi.h"
+#include "shell/puntuacion.h"
+#include "shell/servicios.h"
+#include "shell/ventanas.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <filesystem>
+
+namespace qa {
+
+namespace {
+QString Q(const std::string& s) {
+    return QString::fromStdString(s);
+}
+} // namespace
+
+Opciones::Opciones(QWidget* padre)
+    : QDialog(padre), combo1_(new QComboBox), skinCombo_(new QComboBox), text1_(new QLineEdit),
+      label1_(new QLabel), aceptar_(new QPushButton), cancelar_(new QPushButton) {
+    setObjectName("Opciones");
+    combo1_->setObjectName("Combo1");
+    skinCombo_->setObjectName("SkinCombo");
+    text1_->setObjectName("Text1");
+    auto* capas = new QVBoxLayout(this);
+    for (int i = 1; i <= 3; ++i) {
+        frames_[i] = new QGroupBox;
+        frames_[i]->setObjectName(QString("Frame%1").arg(i));
+        capas->addWidget(frames_[i]);
+    }
+    (new QVBoxLayout(frames_[1]))->addWidget(combo1_);
+    (new QVBoxLayout(frames_[2]))->addWidget(skinCombo_);
+    auto* rejilla = new QGridLayout(frames_[3]);
+    for (int i = 1; i <= 3; ++i) {
+        checks_[i] = new QCheckBox;
+        checks_[i]->setObjectName(QString("Check%1").arg(i));
+        rejilla->addWidget(checks_[i], i - 1, 0, 1, 2);
+    }
+    rejilla->addWidget(label1_, 3, 0);
+    rejilla->addWidget(text1_, 3, 1);
+    auto* botones = new QHBoxLayout;
+    botones->addStretch();
+    botones->addWidget(aceptar_);
+    botones->addWidget(cancelar_);
+    capas->addLayout(botones);
+    connect(aceptar_, &QPushButton::clicked, this, [this] {
+        OpcionesAceptar();
+        hide();
+    });
+    connect(cancelar_, &QPushButton::clicked, this, &QDialog::hide);
+    connect(combo1_, &QComboBox::activated, this, [this] { Combo1Click(); });
+    setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+    resize(320, 300);
+}
+
+void Opciones::AplicarIdioma() {
+    setWindowTitle(Q(Texto("Opciones", "Titulo")));
+    for (int i = 1; i <= 3; ++i) {
+        frames_[i]->setTitle(Q(Texto("Opciones", "Frame" + std::to_string(i))));
+        checks_[i]->setText(Q(Texto("Opciones", "Check" + std::to_string(i))));
+    }
+    label1_->setText(Q(Texto("Opciones", "Texto1")));
+    aceptar_->setText(Q(Texto("Botones", "Aceptar")));
+    cancelar_->setText(Q(Texto("Botones", "Cancelar")));
+}
+
+void Opciones::LlenarIdiomas() {
+    combo1_->clear();
+    auto lista = qa::LlenarIdiomas();
+    if (lista.primeroIncorrecto) {
+        MostrarMensaje("Quintarena", "Versión del idioma incorrecto.", kIconoInformacion);
+        SituarVentanas();
+        if (Forms().mdi) Forms().mdi->Descargar();
+    }
+    for (const auto& n : lista.nombres) combo1_->addItem(Q(n));
+    combo1_->setCurrentIndex(-1);
+}
+
+std::vector<std::string> Opciones::Idiomas() const {
+    std::vector<std::string> v;
+    for (int i = 0; i < combo1_->count(); ++i) v.push_back(combo1_->itemText(i).toStdString());
+    return v;
+}
+
+std::string Opciones::TextoIdioma() const {
+    return combo1_->currentText().toStdString();
+}
+
+void Opciones::FijarTextoIdioma(const std::string& nombre) {
+    int i = combo1_->findText(Q(nombre));
+    if (i >= 0) combo1_->setCurrentIndex(i);
+}
+
+void Opciones::Combo1Click() {
+    CambiarIdioma();
+    if (FinPrograma()) return;
+    if (isVisible()) {
+        const std::string antes = TextoSkin();
+        ActualizarSkins();
+        skinEnCambio_ = true;
+        CargarApariencia(!antes.empty() && antes.front() == '(' ? kNombreBase : antes);
+        skinEnCambio_ = false;
+    }
+    PrintPuntuacion();
+}
+
+void Opciones::ActualizarSkins() {
+    namespace fs = std::filesystem;
+    skinCombo_->clear();
+    skinCombo_->addItem(kNombreBase);
+    std::vector<std::string> carpetas;
+    std::error_code ec;
+    fs::directory_iterator it(RutaReal(DirectorioPrograma + "apariencias\\"), ec);
+    for (; !ec && it != fs::directory_iterator(); it.increment(ec))
+        if (it->is_directory(ec)) carpetas.push_back(Minusculas(it->path().filename().string()));
+    std::sort(carpetas.begin(), carpetas.end());
+    for (const auto& c : carpetas) skinCombo_->addItem(Q(c));
+}
+
+void Opciones::CargarApariencia(const std::string& apariencia) {
+    ActualizarSkins();
+    if (apariencia == kNombreBase) {
+        skinCombo_->setCurrentIndex(0);
+        return;
+    }
+    if (EsCarpeta(DirectorioPrograma + "apariencias\\" + apariencia)) {
+        int i = skinCombo_->findText(Q(apariencia), Qt::MatchFixedString);
+        if (i >= 0) skinCombo_->setCurrentIndex(i);
+    }
+}
+
+std::string Opciones::TextoSkin() const {
+    return skinCombo_->currentText().toStdString();
+}
+
+bool Opciones::Check(int i) const {
+    return i >= 1 && i <= 3 && checks_[i]->isChecked();
+}
+
+void Opciones::FijarCheck(int i, bool marcada) {
+    if (i >= 1 && i <= 3) checks_[i]->setChecked(marcada);
+}
+
+std::string Opciones::Tamano() const {
+    return text1_->text().toStdString();
+}
+
+void Opciones::FijarTamano(const std::string& texto) {
+    text1_->setText(Q(texto));
+}
+
+void Opciones::OpcionesAceptar() {
+    const std::string& f = FicheroOpciones;
+    EscribirIni(f, "Configuracion", "Idioma", TextoIdioma());
+    EscribirIni(f, "Configuracion", "Apariencia", TextoSkin());
+    for (int i = 1; i <= 3; ++i)
+        EscribirIni(f, "Configuracion", "Check" + std::to_string(i), Check(i) ? "1" : "0");
+    // The file keeps what was typed; the clamps below are for use only.
+    EscribirIni(f, "Configuracion", "Tamaño", Tamano());
+    double v = Val(Tamano());
+    if (v == 0) FijarTamano("30");
+    if (v > 100) FijarTamano("100");
+    v = Val(Tamano());
+    auto& en = Enlace();
+    if (en.AlturaFichas && v != en.AlturaFichas()) Ejecutar(en.CambiarTamano);
+    if (Cierto(en.SetTableroVisible)) Ejecutar(en.RepintarPaleta);
+}
+
+} // namespace qa

@@ -1,0 +1,35 @@
+#include "shell/reloj.h"
+
+#include "shell/idioma.h"
+
+#include <QGridLayout>
+#include <QLabel>
+
+namespace qa {
+
+Reloj::Reloj() : FormularioHijo("mnuReloj") {
+    setObjectName("Reloj");
+    auto* cuerpo = new QWidget;
+    auto* rejilla = new QGridLayout(cuerpo);
+    for (int i = 1; i <= 4; ++i) {
+        etiquetas_[i] = new QLabel(i > 2 ? "0:00" : "");
+        etiquetas_[i]->setObjectName(QString("Label%1").arg(i));
+        rejilla->addWidget(etiquetas_[i], (i - 1) % 2, (i - 1) / 2);
+    }
+    QFont grande = etiquetas_[3]->font();
+    grande.setPointSize(grande.pointSize() + 6);
+    grande.setBold(true);
+    etiquetas_[3]->setFont(grande);
+    etiquetas_[4]->setFont(grande);
+    setWidget(cuerpo);
+    setWindowFlags(windowFlags() & ~Qt::WindowMaximizeButtonHint);
+    resize(200, 110);
+}
+
+void Reloj::AplicarIdioma() {
+    setWindowTitle(QString::fromStdString(Texto("Reloj", "Titulo")));
+    etiquetas_[1]->setText(QString::fromStdString(Texto("Reloj", "Jugador1")));
+    etiquetas_[2]->setText(QString::fromStdString(Texto("Reloj", "Jugador2")));
+}
+
+} // namespace qa

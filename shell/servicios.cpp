@@ -1,0 +1,193 @@
+#include "shell/servicios.h"
+
+#include "platform/programa.h"
+#include "platform/ruta.h"
+#include "platform/sonido.h"
+#include "platform/texto.h"
+#include "shell/chat.h"
+#include "shell/enlaces.h"
+#include "shell/formularios.h"
+#include "shell/idioma.h"
+#include "shell/mdi.h"
+#include "shell/quintarena.h"
+
+#include <QAction>
+#include <QCursor>
+#include <QFile>
+#include <QFileDialog>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPixmap>
+#include <QPushButton>
+#include <chrono>
+#include <filesystem>
+
+namespace qa {
+
+int ResultadoMensaje = 0;
+
+namespace {
+
+PresentadorMensajes& Presentador() {
+    static PresentadorMensajes p;
+    return p;
+}
+
+PresentadorDialogos& Dialogos() {
+    static PresentadorDialogos p;
+    return p;
+}
+
+QString Q(const std::string& s) {
+    return QString::fromStdString(s);
+}
+
+int CajaReal(const CMensaje& m) {
+    QMessageBox caja(Forms().mdi);
+    caja.setWindowTitle(Q(m.Titulo));
+    caja.setText(Q(m.Texto));
+    caja.setIcon(m.Icono == kIconoStop          ? QMessageBox::Critical
+                 : m.Icono == kIconoPregunta    ? QMessageBox::Question
+                 : m.Icono == kIconoInformacion ? QMessageBox::Information
+                                                : QMessageBox::NoIcon);
+    if (m.Botones == kBotonesSiNo) {
+        auto* si = caja.addButton(QMessageBox::Yes);
+        auto* no = caja.addButton(QMessageBox::No);
+        caja.setDefaultButton(m.Extra == kSegundoPorDefecto ? no : si);
+        caja.exec();
+        return caja.clickedButton() == si ? kRespuestaSi : kRespuestaNo;
+    }
+    caja.addButton(QMessageBox::Ok);
+    caja.exec();
+    return 1;
+}
+
+// The message that reports a file that cannot be rewritten, "$" standing for its name.
+void AvisoNoEscribible(const std::string& fichero) {
+    std::string t = ReemplazarDolar(Mensajes[28], FinLinea + RutaReal(fichero) + FinLinea);
+    if (!t.empty()) MostrarMensaje("Quintarena", t, kIconoInformacion);
+}
+
+} // namespace
+
+int CMensaje::Muestra() {
+    ResultadoMensaje = Presentador() ? Presentador()(*this) : CajaReal(*this);
+    return ResultadoMensaje;
+}
+
+int MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones,
+                   int extra) {
+    static CMensaje mensaje;
+    mensaje.Extra = extra;
+    mensaje.Botones = botones;
+    mensaje.Icono = icono;
+    mensaje.Titulo = titulo;
+    mensaje.Texto = TextoMensaje(texto);
+    return mensaje.Muestra();
+}
+
+void FijarPresentadorMensajes(PresentadorMensajes presentador) {
+    Presentador() = std::move(presentador);
+}
+
+void Sonar(int n) {
+    static const char* const kSonidos[] = {"",          "Conexion.wav", "Desconectado.wav",
+                                           "Mueve.wav", "Gana.wav",     "Tiempo.wav"};
+    const std::string carpeta = DirectorioPrograma + "Sonidos\\";
+    if (!Marcada("mnuSonido") || n < 1 || n > 5) return;
+    const std::string fichero = carpeta + kSonidos[n];
+    if (ExisteRuta(fichero)) {
+        ReproducirSonido(RutaReal(fichero));
+        return;
+    }
+    // Said once: the sound goes off until the user turns it on again.
+    Marcar("mnuSonido", false);
+    MostrarMensaje("Quintarena", ReemplazarDolar(Mensajes[54], RutaReal(carpeta)), kIconoStop);
+}
+
+RespuestaDialogo DialogoFichero(int modo, const std::string& titulo, const std::string& fichero,
+                                const Filtros& filtros, int filtroIndice, const std::string& dir) {
+    if (Dialogos()) return Dialogos()(modo, titulo);
+    QStringList lista;
+    for (const auto& [etiqueta, patron] : filtros)
+        lista << Q(etiqueta) + " (" + Q(patron).replace(';', ' ') + ")";
+    QFileDialog d(Forms().mdi, Q(titulo), Q(RutaReal(dir)));
+    d.setNameFilters(lista);
+    if (filtroIndice >= 1 && filtroIndice <= lista.size())
+        d.selectNameFilter(lista[filtroIndice - 1]);
+    d.setAcceptMode(modo == kDialogoAbrir ? QFileDialog::AcceptOpen : QFileDialog::AcceptSave);
+    d.setFileMode(modo == kDialogoAbrir ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    if (!fichero.empty()) d.selectFile(Q(fichero));
+    RespuestaDialogo r;
+    if (d.exec() != QDialog::Accepted || d.selectedFiles().isEmpty()) return r;
+    r.fichero = d.selectedFiles().front().toStdString();
+    r.carpeta = d.directory().absolutePath().toStdString();
+    r.filtro = static_cast<int>(lista.indexOf(d.selectedNameFilter())) + 1;
+    return r;
+}
+
+void FijarPresentadorDialogos(PresentadorDialogos presentador) {
+    Dialogos() = std::move(presentador);
+}
+
+bool QuitarSoloLectura(const std::string& fichero) {
+    namespace fs = std::filesystem;
+    std::error_code ec;
+    const std::string ruta = RutaReal(fichero);
+    if (!fs::exists(ruta, ec)) return true;
+    fs::permissions(ruta, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add,
+                    ec);
+    return !ec;
+}
+
+void GuardarImagen() {
+    auto r =
+        DialogoFichero(2, Mensajes[49], "Quintarena", {{"Mapa de bits (*.bmp)", "*.bmp"}}, 1, "");
+    if (r.fichero.empty()) return;
+    if (!QuitarSoloLectura(r.fichero)) {
+        AvisoNoEscribible(r.fichero);
+        return;
+    }
+    QWidget* picBuffer = Forms().quintarena ? Forms().quintarena->PicBuffer() : nullptr;
+    if (!picBuffer || !picBuffer->grab().save(Q(RutaReal(r.fichero)), "BMP")) {
+        AvisoNoEscribible(r.fichero);
+        return;
+    }
+    MostrarMensaje("Quintarena", "37", kIconoInformacion);
+}
+
+void GuardarChat() {
+    if (Cierto(Enlace().SetTableroVisible)) return;
+    auto r =
+        DialogoFichero(2, Mensajes[45], "Chat", {{"*.txt", "*.txt"}, {" (*.*)", "*.*"}}, 1, "");
+    if (r.fichero.empty()) return;
+    if (!QuitarSoloLectura(r.fichero)) {
+        AvisoNoEscribible(r.fichero);
+        return;
+    }
+    QFile f(Q(RutaReal(r.fichero)));
+    const QByteArray texto = Forms().chat ? Forms().chat->TextoChat().toUtf8() : QByteArray();
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate) || f.write(texto) != texto.size()) {
+        AvisoNoEscribible(r.fichero);
+        return;
+    }
+    f.close();
+    MostrarMensaje("Quintarena", "33", kIconoInformacion);
+}
+
+void MenuContextual(QMenu* menu) {
+    if (menu) menu->popup(QCursor::pos());
+}
+
+std::int64_t Cronometro(std::int64_t inicio) {
+    const std::int64_t ahora = std::chrono::duration_cast<std::chrono::nanoseconds>(
+                                   std::chrono::steady_clock::now().time_since_epoch())
+                                   .count();
+    return inicio != -1 ? ahora - inicio : ahora;
+}
+
+std::int64_t FrecuenciaCronometro() {
+    return 1'000'000'000;
+}
+
+} // namespace qa

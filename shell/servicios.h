@@ -1,0 +1,66 @@
+#pragma once
+// Small services all of the program shares: message boxes, sounds, file dialogs, saving the
+// chat and the board picture, popup menus and the high-resolution timer.
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <utility>
+#include <vector>
+
+class QMenu;
+
+namespace qa {
+
+inline constexpr int kIconoStop = 16;
+inline constexpr int kIconoPregunta = 32;
+inline constexpr int kIconoInformacion = 64;
+inline constexpr int kBotonesSiNo = 4;
+inline constexpr int kSegundoPorDefecto = 256;
+inline constexpr int kRespuestaSi = 6;
+inline constexpr int kRespuestaNo = 7;
+
+class CMensaje {
+public:
+    std::string Titulo, Texto;
+    int Icono = 0, Botones = 0, Extra = 0;
+    int Muestra();
+};
+
+// What the last message box returned; 6 is Yes.
+extern int ResultadoMensaje;
+
+// `texto` is a message number ("70") or a plain text; see TextoMensaje.
+int MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones = 0,
+                   int extra = 0);
+
+// Tests answer the boxes themselves; nothing set means a real box.
+using PresentadorMensajes = std::function<int(const CMensaje&)>;
+void FijarPresentadorMensajes(PresentadorMensajes presentador);
+
+// 1 "Conexion.wav", 2 "Desconectado.wav", 3 "Mueve.wav", 4 "Gana.wav", 5 "Tiempo.wav".
+void Sonar(int n);
+
+struct RespuestaDialogo {
+    std::string fichero; // empty when the dialog was cancelled
+    std::string carpeta;
+    int filtro = 1; // 1-based index of the chosen filter
+};
+using Filtros = std::vector<std::pair<std::string, std::string>>; // label, pattern
+inline constexpr int kDialogoAbrir = 1;
+RespuestaDialogo DialogoFichero(int modo, const std::string& titulo, const std::string& fichero,
+                                const Filtros& filtros, int filtroIndice, const std::string& dir);
+using PresentadorDialogos = std::function<RespuestaDialogo(int modo, const std::string& titulo)>;
+void FijarPresentadorDialogos(PresentadorDialogos presentador);
+
+// Clears the read-only mark of an existing file; a missing file is fine.
+bool QuitarSoloLectura(const std::string& fichero);
+
+void GuardarImagen();
+void GuardarChat();
+void MenuContextual(QMenu* menu);
+
+// The counter, or the time since `inicio` when it is not -1; FrecuenciaCronometro per second.
+std::int64_t Cronometro(std::int64_t inicio);
+std::int64_t FrecuenciaCronometro();
+
+} // namespace qa

@@ -1,0 +1,38 @@
+#pragma once
+// Window places: every window keeps its place between runs, in twips as the settings hold them.
+#include "shell/configuracion.h"
+
+#include <string>
+
+class QWidget;
+
+namespace qa {
+
+inline constexpr double kTwipsPorPixel = 15.0;
+
+Lugar LugarDe(const QWidget* ventana);
+
+// Places all windows from the settings; nothing is clamped to the screen.
+void SituarVentanas();
+// Writes the places of the board form and the four panels, in the order of the settings table.
+void EscribirLugares();
+
+// The engine form and the PGN browser take the room of the four panels while they are up.
+void OcultarVentanas(bool llamanteVisible);
+void MostrarVentanas();
+
+// The panel of a view entry ("mnuReloj" -> Reloj), shown or hidden without waiting.
+QWidget* Panel(const std::string& entrada);
+void MostrarPanel(const std::string& entrada, bool visible);
+
+// The four view entries in the order the panels are shown at start, with their keys.
+struct PanelVista {
+    const char* entrada;
+    const char* clave;
+};
+inline constexpr PanelVista kPaneles[] = {{"mnuReloj", "Reloj"},
+                                          {"mnuVentanaChat", "Chat"},
+                                          {"mnuMovimientos", "Jugadas"},
+                                          {"mnuMostrarRanking", "Elo"}};
+
+} // namespace qa
