@@ -1,0 +1,28 @@
+#pragma once
+// The colour scheme of the forms: a bevelled frame in a base colour, or the flat system look.
+#include <QColor>
+#include <QImage>
+
+class QWidget;
+
+namespace qa {
+
+inline int ColorR = 30, ColorG = 40, ColorB = 55;
+inline int Fondo = 1; // 1 coloured with a bevel, 2 the system colours
+
+// A form joins one of the groups its background is painted with (1 board and clock, 2 move
+// list, options and new game, 3 chat, connection, promotion, address, 4 ranking, 7 engines,
+// 9 EPD, levels and set-up). Unregistered when it is destroyed.
+void RegistrarFormulario(QWidget* formulario, int grupo);
+// Code 0 paints every registered form, any other code its group.
+void PintarFormularios(int codigo);
+
+void FondoBiselado(int ancho, int alto, QWidget* formulario);
+void FondoPlano(int ancho, int alto, QWidget* formulario);
+void ColorearControles(QWidget* formulario);
+// The six-line bevel from the base colour inwards, on `picture`.
+void Bisel(int x1, int y1, int x2, int y2, QImage& picture);
+// The colour inside the bevel, and of the controls: base plus 200 while Fondo is 1.
+QColor ColorInterior();
+
+} // namespace qa

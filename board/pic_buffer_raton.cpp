@@ -1,0 +1,256 @@
+// The mouse on the board: dragging a piece, or clicking the piece and then its square.
+#include "board/pic_buffer.h"
+
+#include "core/game_state.h"
+#include "core/local_move.h"
+#include "core/move_filter.h"
+
+#include <QMouseEvent>
+#include <cmath>
+
+namespace qa {
+
+using namespace Variables;
+
+namespace {
+
+enum Cursor { Normal = 0, Mano = 99, Prohibido = 12, ArrastreMano = -1, ArrastreStop = -2 };
+
+// One band after another; the last one includes its upper end.
+int Banda(int v, int tam) {
+    if (tam <= 0) return 0;
+    for (int k = 1; k <= 8; ++k)
+        if (v >= (k - 1) * tam && (v < k * tam || (k == 8 && v == 8 * tam))) return k;
+    return 0;
+}
+
+std::string Digitos(int col, int fila) {
+    return {char('0' + col), char('0' + fila)};
+}
+
+} // namespace
+
+int PicBuffer::Columna(int x) const {
+    return Banda(x, AnchoCasilla);
+}
+
+int PicBuffer::Fila(int y) const {
+    const int b = Banda(y, AltoCasilla);
+    return b == 0 ? 0 : 9 - b;
+}
+
+void PicBuffer::PonerCursor(int forma) {
+    switch (forma) {
+    case Mano:
+        setCursor(Qt::OpenHandCursor);
+        break;
+    case Prohibido:
+    case ArrastreStop:
+        setCursor(Qt::ForbiddenCursor);
+        break;
+    case ArrastreMano:
+        setCursor(Qt::ClosedHandCursor);
+        break;
+    default:
+        setCursor(Qt::ArrowCursor);
+        break;
+    }
+}
+
+bool PicBuffer::FichaElegible(int32_t codigo) const {
+    if (codigo < 1 || codigo > 12) return false;
+    if (!Conectado) return true;
+    return (Turno == 2 && EsNegra(codigo)) || (Turno == 1 && EsBlanca(codigo));
+}
+
+bool PicBuffer::Probar(int col, int fila) {
+    SoloProbar = true;
+    Destino = Digitos(col, fila);
+    FiltroMovimiento();
+    Destino.clear();
+    SoloProbar = false;
+    return MovimientoValido;
+}
+
+void PicBuffer::Anular() {
+    if (boardTemp_[0].size() == buffer_.size()) buffer_ = boardTemp_[0].copy();
+    EncogerTemporales();
+    update();
+    MovimientoAnulado();
+}
+
+void PicBuffer::MouseDown(Qt::MouseButton boton, int x, int y) {
+    if (Cargando) return;
+    ColRaton = Columna(x);
+    FilaRaton = Fila(y);
+    if (ColRaton == 0 || FilaRaton == 0) return;
+    if (EditandoTablero) {
+        MouseDownSet(boton);
+        return;
+    }
+    if (boton != Qt::LeftButton || Turno == 0) return;
+    if (pointClick)
+        Clic();
+    else
+        InicioArrastre(x, y);
+}
+
+void PicBuffer::InicioArrastre(int x, int y) {
+    const auto [c, f] = Convertir(ColRaton, FilaRaton);
+    if (!Conectado && !NoEsContraria(c, f)) return;
+    boardTemp_[0] = buffer_.copy();
+    if (!Origen.empty()) return;
+    if (!FichaElegible(Tablero[c][f])) return;
+    FichaMovida = Tablero[c][f];
+    CuadroDesdeFondo(ColRaton, FilaRaton);
+    update();
+    boardTemp_[1] = buffer_.copy();
+    Origen = Digitos(c, f);
+    ArrastreCancelado = false;
+    arrastrando_ = true;
+    DragOver(x, y, false); // the piece is under the cursor from the first moment
+}
+
+void PicBuffer::DragOver(int x, int y, bool fuera) {
+    if (!arrastrando_) return;
+    if (fuera || !rect().contains(x, y)) {
+        // Leaving the board ends the move: the piece is back at once.
+        arrastrando_ = false;
+        PonerCursor(Normal);
+        Anular();
+        return;
+    }
+    ColRaton = Columna(x);
+    FilaRaton = Fila(y);
+    if (boardTemp_[1].size() == buffer_.size()) buffer_ = boardTemp_[1].copy();
+    const double medioAncho = AnchoCasilla / 2.0, medioAlto = AltoCasilla / 2.0;
+    {
+        QPainter p(&buffer_);
+        PintarFicha(p, r_, FichaMovida, static_cast<int>(std::lround(x - medioAncho)),
+                    static_cast<int>(std::lround(y - medioAlto)));
+    }
+    update();
+    bool legal = false;
+    if (!pointClick && !Origen.empty()) {
+        const auto [c, f] = Convertir(ColRaton, FilaRaton);
+        legal = Probar(c, f);
+    }
+    const auto [c, f] = Convertir(ColRaton, FilaRaton);
+    PonerCursor(legal || Digitos(c, f) == Origen.substr(0, 2) ? ArrastreMano : ArrastreStop);
+}
+
+void PicBuffer::DragDrop(int x, int y) {
+    if (!arrastrando_) return;
+    arrastrando_ = false;
+    PonerCursor(Normal);
+    if (Turno == 0 || pointClick) return;
+    ColRaton = FilaRaton = 0;
+    ColRaton = Columna(x);
+    FilaRaton = Fila(y);
+    if (ColRaton == 0 || FilaRaton == 0) {
+        Anular();
+        return;
+    }
+    const auto [c, f] = Convertir(ColRaton, FilaRaton);
+    if (Digitos(c, f) == Origen.substr(0, 2)) {
+        Anular();
+        return;
+    }
+    if (Origen.empty()) return;
+    Destino = Digitos(c, f);
+    // The piece under the cursor goes first: a castling rook is drawn from inside the filter.
+    RestaurarArrastre();
+    FiltroMovimiento();
+    if (MovimientoValido && TipoEnroque == 0) {
+        InvertirMovimiento();
+        RestaurarArrastre();
+    }
+    ReparacionAlPaso();
+    if (!MovimientoValido) {
+        Anular();
+        return;
+    }
+    FinComun();
+    EncogerTemporales();
+}
+
+void PicBuffer::MarcarCasilla(int col, int fila) {
+    if (EditandoTablero) {
+        rey_ = {true, QPoint(col, fila)};
+    } else if (marcador_.visible) {
+        marcador_.visible = false;
+    } else {
+        marcador_ = {true, QPoint(col, fila)};
+    }
+    update();
+}
+
+void PicBuffer::Clic() {
+    const auto [c, f] = Convertir(ColRaton, FilaRaton);
+    const bool origenVacio = Origen.empty();
+    if (!Conectado && origenVacio && !NoEsContraria(c, f)) return;
+    boardTemp_[0] = buffer_.copy();
+    if (origenVacio && FichaElegible(Tablero[c][f])) {
+        FichaMovida = Tablero[c][f];
+        MarcarCasilla(ColRaton, FilaRaton);
+    }
+    if (!marcador_.visible || origenVacio) {
+        if (marcador_.visible) Origen = Digitos(c, f);
+        return;
+    }
+    Destino = Digitos(c, f);
+    FiltroMovimiento();
+    ReparacionAlPaso();
+    if (MovimientoValido) {
+        CuadroDesdeFondo(ColRaton, FilaRaton);
+        update();
+        InvertirMovimiento();
+        DibujarMovimiento();
+        boardTemp_[1] = buffer_.copy();
+        // The common finish would draw the move again, and for castling on a turned board
+        // in the wrong place: it has been drawn.
+        dibujoHecho_ = true;
+        FinComun();
+        dibujoHecho_ = false;
+        EncogerTemporales();
+    }
+    MovimientoAnulado();
+}
+
+void PicBuffer::MouseMove(Qt::MouseButtons botones, int x, int y) {
+    if (EditandoTablero || !Destino.empty() || botones != Qt::NoButton || Cargando) return;
+    ColRaton = Columna(x);
+    FilaRaton = Fila(y);
+    if (ColRaton == 0 || FilaRaton == 0) return;
+    const auto [c, f] = Convertir(ColRaton, FilaRaton);
+    if (pointClick && !Origen.empty()) {
+        if (Probar(c, f))
+            PonerCursor(Mano);
+        else
+            PonerCursor(Digitos(c, f) == Origen.substr(0, 2) ? Mano : Prohibido);
+    } else {
+        PonerCursor(EsFichaPropia(c, f) ? Mano : Normal);
+    }
+    ColRaton = FilaRaton = 0;
+}
+
+void PicBuffer::mousePressEvent(QMouseEvent* e) {
+    const QPoint p = e->position().toPoint();
+    MouseDown(e->button(), p.x(), p.y());
+}
+
+void PicBuffer::mouseMoveEvent(QMouseEvent* e) {
+    const QPoint p = e->position().toPoint();
+    if (arrastrando_)
+        DragOver(p.x(), p.y(), !rect().contains(p));
+    else
+        MouseMove(e->buttons(), p.x(), p.y());
+}
+
+void PicBuffer::mouseReleaseEvent(QMouseEvent* e) {
+    if (e->button() != Qt::LeftButton || !arrastrando_) return;
+    const QPoint p = e->position().toPoint();
+    DragDrop(p.x(), p.y());
+}
+
+} // namespace qa
