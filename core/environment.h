@@ -44,6 +44,20 @@ public:
     // Over the network: which side the local player takes, 1 or 2.
     virtual int PreguntarColorRed() { return 1; }
     virtual void EnviarPosicionRed() {}
+
+    // Game files. The text of message n, for the boxes that add to it.
+    virtual std::string Mensaje(int n) { return std::to_string(n); }
+    // Captions of White's (1) and Black's (2) clocks: a game file stores
+    // them, and a replay tells its clock lines by whether they are empty.
+    virtual std::string TextoReloj(int lado) { return relojes_[lado == 2]; }
+    virtual void PonerTextoReloj(int lado, const std::string& texto) {
+        relojes_[lado == 2] = texto;
+    }
+    virtual void AvisoCargando() {}   // message 69 over the board while a file loads
+    virtual void MostrarVentanas() {} // the panels a replay or a browser hid come back
+
+private:
+    std::string relojes_[2] = {"00:00", "00:00"};
 };
 
 // A headless environment: promotion takes the form's default (or a preset

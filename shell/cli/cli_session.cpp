@@ -6,7 +6,14 @@
 #include "core/move_filter.h"
 #include "core/move_list.h"
 #include "core/takeback.h"
+#include "files/epd_list.h"
 #include "files/fen.h"
+#include "files/game_file.h"
+#include "files/line_reader.h"
+#include "files/pgn_browser.h"
+#include "files/pgn_moves.h"
+#include "files/pgn_scanner.h"
+#include "files/qtr_replay.h"
 
 #include <algorithm>
 #include <cctype>
@@ -195,6 +202,14 @@ void SesionCli::Ejecutar(const std::string& linea) {
     } else if (orden == "undo" && arg.empty()) {
         for (const auto& r : Jugadas::List1) salida_ << r << '\n';
         salida_ << ".\n";
+    } else if (orden == "save" && !arg.empty()) {
+        Guardar(arg);
+    } else if (orden == "open" && !arg.empty()) {
+        Abrir(arg);
+    } else if (orden == "pgn" && !arg.empty()) {
+        Pgn(arg);
+    } else if (orden == "pgngame" && !arg.empty()) {
+        PgnPartida(arg);
     } else {
         salida_ << "error unknown command: " << orden << '\n';
     }
@@ -261,4 +276,68 @@ void SesionCli::Lista(const std::string& arg) {
     }
     for (const auto& l : Jugadas::Lineas(arg[0] - '0')) salida_ << l << '\n';
     salida_ << ".\n";
+}
+
+void SesionCli::Guardar(const std::string& ruta) {
+    Guardado g = GuardarPartida(ruta);
+    if (g == Guardado::Etiquetas) g = ConfirmarEtiquetasPgn(EtiquetasIniciales());
+    salida_ << (g == Guardado::Hecho ? "ok" : g == Guardado::Nada ? "ignored" : "failed") << '\n';
+}
+
+void SesionCli::Abrir(const std::string& ruta) {
+    const std::string ext = Ficheros::Extension3(ruta);
+    bool bien = false;
+    if (!Ficheros::Existe(ruta)) {
+        bien = false; // the open command does nothing for a missing file
+    } else if (ext == "qtr") {
+        bien = ReproducirQtr(ruta);
+    } else if (ext == "pgn") {
+        AbrirListaPgn(ruta);
+        bien = TotalPartidas > 0;
+    } else if (ext == "epd") {
+        bien = FEpd::LeerEPD(ruta) && FEpd::EventosDblClick(0);
+        if (!bien) FEpd::Cerrar();
+    }
+    salida_ << (bien ? "ok" : "refused") << '\n';
+}
+
+// The browser's first pass, as the form's timer runs it after opening a file.
+void SesionCli::AbrirListaPgn(const std::string& ruta) {
+    entorno_->listaPgnVisible = true;
+    ListaPgn::Descargar();
+    AbrirPgn(ruta);
+    CargarPartidaPgn();
+    entorno_->listaPgnVisible = false;
+}
+
+void SesionCli::Pgn(const std::string& ruta) {
+    AbrirListaPgn(ruta);
+    salida_ << TotalPartidas << '\n';
+}
+
+void SesionCli::PgnPartida(const std::string& arg) {
+    const size_t blanco = arg.find_last_of(' ');
+    int32_t n = -1;
+    if (blanco != std::string::npos) {
+        const char* ini = arg.data() + blanco + 1;
+        const char* fin = arg.data() + arg.size();
+        auto [p, ec] = std::from_chars(ini, fin, n);
+        if (ec != std::errc() || p != fin) n = -1;
+    }
+    if (n < 0) {
+        salida_ << "error pgngame needs PATH N\n";
+        return;
+    }
+    const std::string ruta = arg.substr(0, blanco);
+    if (FicheroPgn != ruta || !ListaLeida) AbrirListaPgn(ruta);
+    if (n >= static_cast<int32_t>(ListaPgn::Eventos.size())) {
+        salida_ << "error no game " << n << '\n';
+        return;
+    }
+    entorno_->listaPgnVisible = true;
+    ElegirPartidaPgn(n);
+    FallaPgn = false;
+    CargarPartidaPgn();
+    entorno_->listaPgnVisible = false;
+    salida_ << (FallaPgn ? "failed " : "ok ") << ListaPgn::PgnJugadas.size() << '\n';
 }

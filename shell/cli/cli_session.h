@@ -31,4 +31,9 @@ private:
     void Probar(const std::string& arg);
     void Obtener(const std::string& nombre);
     void Lista(const std::string& arg);
+    void Guardar(const std::string& ruta);
+    void Abrir(const std::string& ruta);
+    void AbrirListaPgn(const std::string& ruta);
+    void Pgn(const std::string& ruta);
+    void PgnPartida(const std::string& arg);
 };

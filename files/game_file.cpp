@@ -1,0 +1,155 @@
+#include "files/game_file.h"
+
+#include "core/environment.h"
+#include "core/game_state.h"
+#include "core/move_list.h"
+#include "files/fen.h"
+#include "files/line_reader.h"
+#include "files/pgn_scanner.h"
+
+#include <ctime>
+
+namespace Variables {
+
+namespace {
+
+constexpr int kIconoInformacion = 64;
+constexpr const char* kFin = "\r\n";
+
+// Minutes and seconds of a clock caption such as "05:30": its first two and
+// last two characters.
+std::string Tiempo(const std::string& rotulo) {
+    if (rotulo.empty()) return {};
+    const std::string a = rotulo.substr(0, 2);
+    const std::string b = rotulo.size() >= 2 ? rotulo.substr(rotulo.size() - 2) : rotulo;
+    return a + b;
+}
+
+Guardado Escribir(const std::string& texto) {
+    if (!Ficheros::EscribirSeguro(RutaPartida, texto)) return Guardado::Fallo;
+    entorno().MostrarMensaje("Quintarena", "34", kIconoInformacion, 0, 0);
+    RutaPartida.clear();
+    return Guardado::Hecho;
+}
+
+std::string Reemplazar(std::string s, char que, const std::string& por) {
+    std::string r;
+    for (char c : s) {
+        if (c == que)
+            r += por;
+        else
+            r += c;
+    }
+    return r;
+}
+
+} // namespace
+
+std::vector<std::pair<std::string, std::string>> FiltrosGuardar() {
+    if (DesdePosicion) return {{" Epd (*.epd)", "*.epd"}};
+    return {{" (*.qtr)", "*.qtr"}, {" Pgn (*.pgn)", "*.pgn"}, {" Epd (*.epd)", "*.epd"}};
+}
+
+std::string TextoQtr() {
+    const std::string b = Tiempo(entorno().TextoReloj(1));
+    const std::string n = Tiempo(entorno().TextoReloj(2));
+    std::string t = b + kFin + n + kFin;
+    if (!TipoPartida.empty()) {
+        t += TipoPartida + kFin;
+    } else {
+        if (b != "0000" || n != "0000") t += std::string("R") + kFin;
+        if (b == "0000" || n == "0000") t += std::string("A") + kFin;
+    }
+    return t + Jugadas::List[4];
+}
+
+std::string ConstruirTextoPgn(const std::string& lista3) {
+    std::string out;
+    size_t linea = 0; // characters on the current output line
+    for (size_t i = 0; i < lista3.size(); ++i) {
+        const char c = lista3[i];
+        if (c == ' ' || c == '\r') continue;
+        if (c == '\n') {
+            if (linea < 71) {
+                out += ' ';
+                ++linea;
+            } else {
+                out += kFin;
+                linea = 0;
+            }
+            continue;
+        }
+        out += c;
+        ++linea;
+        if (c == '.' && (i + 1 >= lista3.size() || lista3[i + 1] != 'p')) {
+            out += ' ';
+            ++linea;
+        }
+    }
+    return out;
+}
+
+Guardado GuardarPartida(const std::string& ruta) {
+    RutaPartida.clear();
+    if (EditandoTablero || ruta.empty()) return Guardado::Nada;
+    RutaPartida = ruta;
+    if (!Ficheros::QuitarSoloLectura(ruta)) {
+        const std::string t = Reemplazar(entorno().Mensaje(28), '$', kFin + ruta + kFin);
+        entorno().MostrarMensaje("Quintarena", t, kIconoInformacion, 0, 0);
+        RutaPartida.clear();
+        return Guardado::Fallo;
+    }
+    TextoPgn.clear();
+    TextoPartida.clear();
+    const std::string ext = Ficheros::Extension3(ruta);
+    if (ext == "epd") {
+        EscribirFen();
+        return Escribir(TextoFen + kFin);
+    }
+    if (ext == "qtr") {
+        TextoPartida = TextoQtr();
+        return Escribir(TextoPartida);
+    }
+    if (ext == "pgn") {
+        TextoPgn = ConstruirTextoPgn(Jugadas::List[3]);
+        GuardandoPgn = true;
+        return Guardado::Etiquetas;
+    }
+    RutaPartida.clear();
+    return Guardado::Nada;
+}
+
+EtiquetasPgn EtiquetasIniciales() {
+    EtiquetasPgn e;
+    const std::time_t ahora = std::time(nullptr);
+    std::tm t{};
+    localtime_r(&ahora, &t);
+    e.valor[0] = "Quintarena";
+    e.valor[1] = "Internet";
+    e.valor[2] = std::to_string(t.tm_year + 1900) + "." + std::to_string(t.tm_mon + 1) + "." +
+                 std::to_string(t.tm_mday);
+    e.valor[3] = e.valor[4] = e.valor[5] = "?";
+    e.valor[6] = "*";
+    return e;
+}
+
+Guardado ConfirmarEtiquetasPgn(const EtiquetasPgn& e) {
+    static constexpr const char* nombres[7] = {"[Event ", "[Site ",  "[Date ",  "[Round ",
+                                               "[White ", "[Black ", "[Result "};
+    GuardandoPgn = false;
+    if (RutaPartida.empty()) return Guardado::Nada;
+    std::string t;
+    for (int i = 0; i < 7; ++i) t += std::string(nombres[i]) + "\"" + e.valor[i] + "\"]" + kFin;
+    t += kFin + TextoPgn + e.valor[6] + kFin;
+    TextoPartida = t;
+    const Guardado g = Escribir(t);
+    RutaPartida.clear();
+    return g;
+}
+
+void CancelarEtiquetasPgn() {
+    GuardandoPgn = false;
+    RutaPartida.clear();
+}
+
+} // namespace Variables

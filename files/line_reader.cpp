@@ -1,0 +1,135 @@
+#include "files/line_reader.h"
+
+#include <algorithm>
+#include <cctype>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+constexpr size_t kBloque = 1 << 20;
+}
+
+LectorLineas::LectorLineas(const std::string& ruta, uint64_t desde, uint64_t hasta)
+    : hasta_(hasta), posicion_(desde) {
+    fd_ = ::open(ruta.c_str(), O_RDONLY | O_CLOEXEC);
+    if (fd_ < 0) return;
+    struct stat st {};
+    if (::fstat(fd_, &st) != 0 || S_ISDIR(st.st_mode)) {
+        ::close(fd_);
+        fd_ = -1;
+        return;
+    }
+    base_ = desde;
+    buf_.resize(kBloque);
+    if (desde == 0) {
+        Rellenar();
+        if (fin_ >= 3 && std::memcmp(buf_.data(), "\xEF\xBB\xBF", 3) == 0) ini_ = 3;
+    }
+}
+
+LectorLineas::~LectorLineas() {
+    if (fd_ >= 0) ::close(fd_);
+}
+
+bool LectorLineas::Rellenar() {
+    if (eof_) return false;
+    if (ini_ > 0) {
+        std::memmove(buf_.data(), buf_.data() + ini_, fin_ - ini_);
+        base_ += ini_;
+        fin_ -= ini_;
+        ini_ = 0;
+    }
+    if (fin_ == buf_.size()) buf_.resize(buf_.size() * 2); // a line longer than the buffer
+    for (;;) {
+        ssize_t n =
+            ::pread(fd_, buf_.data() + fin_, buf_.size() - fin_, static_cast<off_t>(base_ + fin_));
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) {
+            eof_ = true;
+            return false;
+        }
+        fin_ += static_cast<size_t>(n);
+        return true;
+    }
+}
+
+bool LectorLineas::Siguiente(std::string_view& linea) {
+    if (fd_ < 0) return false;
+    for (;;) {
+        if (base_ + ini_ >= hasta_) return false;
+        const char* p = buf_.data() + ini_;
+        const void* nl = std::memchr(p, '\n', fin_ - ini_);
+        size_t largo;
+        size_t salto;
+        if (nl) {
+            largo = static_cast<size_t>(static_cast<const char*>(nl) - p);
+            salto = largo + 1;
+        } else if (!Rellenar()) {
+            if (ini_ >= fin_) return false;
+            largo = salto = fin_ - ini_; // the last line has no line end
+            p = buf_.data() + ini_;
+        } else {
+            continue;
+        }
+        posicion_ = base_ + ini_;
+        ini_ += salto;
+        if (largo > 0 && p[largo - 1] == '\r') --largo;
+        linea = std::string_view(p, largo);
+        return true;
+    }
+}
+
+namespace Ficheros {
+
+bool Existe(const std::string& ruta) {
+    struct stat st {};
+    return ::stat(ruta.c_str(), &st) == 0;
+}
+
+bool QuitarSoloLectura(const std::string& ruta) {
+    struct stat st {};
+    if (::stat(ruta.c_str(), &st) != 0) return true;
+    if (S_ISDIR(st.st_mode)) return false;
+    if (st.st_mode & S_IWUSR) return true;
+    return ::chmod(ruta.c_str(), (st.st_mode & 07777) | S_IWUSR) == 0;
+}
+
+bool EscribirSeguro(const std::string& ruta, const std::string& texto) {
+    if (ruta.empty()) return false;
+    std::string plantilla = ruta + ".XXXXXX";
+    int fd = ::mkstemp(plantilla.data());
+    if (fd < 0) return false;
+    size_t hecho = 0;
+    bool bien = true;
+    while (hecho < texto.size()) {
+        ssize_t n = ::write(fd, texto.data() + hecho, texto.size() - hecho);
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) {
+            bien = false;
+            break;
+        }
+        hecho += static_cast<size_t>(n);
+    }
+    if (bien) bien = ::fsync(fd) == 0;
+    // A saved game is an ordinary document: not the private mode mkstemp gives.
+    const mode_t mascara = ::umask(0);
+    ::umask(mascara);
+    if (bien) bien = ::fchmod(fd, 0666 & ~mascara) == 0;
+    if (::close(fd) != 0) bien = false;
+    if (bien) bien = std::rename(plantilla.c_str(), ruta.c_str()) == 0;
+    if (!bien) ::unlink(plantilla.c_str());
+    return bien;
+}
+
+std::string Extension3(const std::string& ruta) {
+    std::string e = ruta.size() >= 3 ? ruta.substr(ruta.size() - 3) : ruta;
+    std::transform(e.begin(), e.end(), e.begin(),
+                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return e;
+}
+
+} // namespace Ficheros

@@ -1,0 +1,53 @@
+#pragma once
+// Reads a text file line by line through a buffer of its own, with the byte
+// offset of each line, so a scan can come back to a line without starting
+// over. The buffer grows only with the longest line, never with the file.
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+class LectorLineas {
+public:
+    static constexpr uint64_t kFin = UINT64_MAX;
+
+    // Lines whose first byte lies in [desde, hasta). A UTF-8 mark at the
+    // start of the file is no part of its first line.
+    explicit LectorLineas(const std::string& ruta, uint64_t desde = 0, uint64_t hasta = kFin);
+    ~LectorLineas();
+    LectorLineas(const LectorLineas&) = delete;
+    LectorLineas& operator=(const LectorLineas&) = delete;
+
+    bool Abierto() const { return fd_ >= 0; }
+    // The next line without its LF or CR LF; the view lives until the next call.
+    bool Siguiente(std::string_view& linea);
+    // Offset of the line last returned.
+    uint64_t Posicion() const { return posicion_; }
+
+private:
+    bool Rellenar();
+
+    int fd_ = -1;
+    std::vector<char> buf_;
+    size_t ini_ = 0, fin_ = 0;
+    uint64_t base_ = 0; // file offset of buf_[0]
+    uint64_t hasta_;
+    uint64_t posicion_ = 0;
+    bool eof_ = false;
+};
+
+// Whole-file and safe-write helpers for the game files.
+namespace Ficheros {
+
+bool Existe(const std::string& ruta);
+// Gives the owner the right to write an existing file; true when there is
+// nothing to do or it worked.
+bool QuitarSoloLectura(const std::string& ruta);
+// Writes to a temporary name beside the target and renames it into place,
+// so a failure never leaves the old file half written or emptied.
+bool EscribirSeguro(const std::string& ruta, const std::string& texto);
+// The last three letters of a path, in lower case.
+std::string Extension3(const std::string& ruta);
+
+} // namespace Ficheros

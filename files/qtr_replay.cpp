@@ -1,0 +1,223 @@
+#include "files/qtr_replay.h"
+
+#include "core/environment.h"
+#include "core/game_end.h"
+#include "core/game_state.h"
+#include "core/local_move.h"
+#include "core/move_filter.h"
+#include "core/move_list.h"
+#include "files/line_reader.h"
+#include "files/pgn_text.h"
+
+#include <string_view>
+#include <vector>
+
+namespace Variables {
+
+namespace {
+
+constexpr int kIconoInformacion = 64;
+
+// The lines of the file read as tokens ended by a comma or a line end; a
+// token in double quotes keeps its commas.
+bool LeerTokens(const std::string& ruta, std::vector<std::string>& tokens) {
+    LectorLineas lector(ruta);
+    if (!lector.Abierto()) return false;
+    std::string_view linea;
+    while (lector.Siguiente(linea)) {
+        size_t i = 0;
+        do {
+            size_t a = linea.find_first_not_of(" \t", i);
+            if (a == std::string_view::npos) a = linea.size();
+            std::string token;
+            size_t fin;
+            if (a < linea.size() && linea[a] == '"') {
+                const size_t cierra = linea.find('"', a + 1);
+                token.assign(linea.substr(a + 1, cierra == std::string_view::npos
+                                                     ? std::string_view::npos
+                                                     : cierra - a - 1));
+                fin = cierra == std::string_view::npos ? linea.size() : linea.find(',', cierra);
+            } else {
+                fin = linea.find(',', a);
+                std::string_view t = linea.substr(
+                    a, fin == std::string_view::npos ? std::string_view::npos : fin - a);
+                const size_t b = t.find_last_not_of(" \t");
+                token.assign(b == std::string_view::npos ? std::string_view{} : t.substr(0, b + 1));
+            }
+            tokens.push_back(std::move(token));
+            if (fin == std::string_view::npos) break;
+            i = fin + 1;
+        } while (i <= linea.size());
+    }
+    return true;
+}
+
+void PonerRelojCero(int lado) {
+    entorno().PonerTextoReloj(lado, "00:00");
+}
+
+void RelojesCero() {
+    PonerRelojCero(1);
+    PonerRelojCero(2);
+}
+
+// The clock line of one side: at one machine the time is not kept.
+void LineaReloj(int lado, const std::string& s) {
+    if (Conectado) {
+        entorno().PonerTextoReloj(lado, s.substr(0, 2) + ":" + s.substr(2, 2));
+        entorno().EnviarMensaje(std::string(lado == 1 ? "QTR TB " : "QTR TN ") + s);
+    } else {
+        PonerRelojCero(lado);
+    }
+}
+
+void Rehusar() {
+    Turno = 0;
+    ColorInicio = 0;
+    entorno().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
+    if (Conectado) entorno().EnviarMensaje("QTR ERROR");
+    LineasPartida.assign(2, std::string());
+    entorno().RedibujarTablero();
+    Cargando = DesdePosicion = false;
+    TipoPartida.clear();
+    ColorJugador.clear();
+    // The game as far as it played stays on the board and in the lists.
+    MovimientoAnulado();
+    EditandoTablero = false;
+    if (!entorno().ListaPgnVisible()) entorno().MostrarVentanas();
+    entorno().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
+    RelojesCero();
+}
+
+} // namespace
+
+bool AbrirQtr(const std::string& ruta) {
+    std::vector<std::string> tokens;
+    if (!LeerTokens(ruta, tokens)) {
+        entorno().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
+        return false;
+    }
+    if (entorno().ListaPgnVisible()) entorno().CerrarListaPgn();
+    Jugadas::Vaciar();
+    VariablesCero();
+    MovimientoAnulado();
+    Turno = 0;
+    PonerFichas();
+    if (Conectado) entorno().EnviarMensaje("QTR Iniciar");
+    entorno().PonerTextoReloj(1, "");
+    entorno().PonerTextoReloj(2, "");
+    LineasPartida.assign(1, std::string());
+    for (auto& t : tokens) LineasPartida.push_back(std::move(t));
+    LineasPartida.emplace_back(); // the empty entry behind the last line
+    entorno().MarcadorVisible(false);
+    LineaActual = 0;
+    ColorInicio = 0;
+    entorno().AvisoCargando();
+    Cargando = true;
+    return true;
+}
+
+PasoQtr SendQtr() {
+    ++LineaActual;
+    if (LineaActual < 1 || static_cast<size_t>(LineaActual) >= LineasPartida.size())
+        return PasoQtr::Final;
+    const std::string s = LineasPartida[static_cast<size_t>(LineaActual)];
+    if (s.empty()) return PasoQtr::Sigue;
+    if (s.size() == 1) {
+        if (Conectado) {
+            TipoPartida = s;
+            entorno().EnviarMensaje("QTR T " + s);
+        } else {
+            TipoPartida = "A"; // a replay alone has no rating
+        }
+        return PasoQtr::Sigue;
+    }
+    if (s.size() == 4 && entorno().TextoReloj(1).empty()) {
+        LineaReloj(1, s);
+        return PasoQtr::Sigue;
+    }
+    if (s.size() == 4 && entorno().TextoReloj(2).empty()) {
+        LineaReloj(2, s);
+        return PasoQtr::Sigue;
+    }
+    if (s.size() < 4) return PasoQtr::Sigue;
+
+    if (ColorInicio == 0) Turno = 1;
+    if (ColorInicio == 1) Turno = 2;
+    Origen = s.substr(0, 2);
+    Destino = s.substr(2, 2);
+    bool legible = true;
+    if (s.size() > 4) {
+        // A promotion code that no piece has is a damaged line.
+        const int64_t pieza = PgnTexto::ValorNumero(s.substr(4));
+        legible = pieza <= 12;
+        PiezaCoronacion = legible ? static_cast<int32_t>(pieza) : 0;
+    }
+    if (legible) FiltroMovimiento();
+    if (!legible || !MovimientoValido) {
+        Rehusar();
+        return PasoQtr::Rehusada;
+    }
+    if (Conectado) entorno().EnviarMensaje("QTR M " + s);
+    if (!AlPasoTexto.empty()) SubComoFicha(AlPasoTexto);
+    entorno().DibujarMovimiento();
+    if (ColorInicio == 0 && Turno == 1)
+        ColorInicio = 1;
+    else if (ColorInicio == 1 && Turno == 2)
+        ColorInicio = 0;
+    if (Mate || Ahogado) {
+        Turno = 0;
+        ColorJugador.clear();
+        TipoPartida.clear();
+        RelojesCero();
+        if (Mate) FinPorMate();
+        if (Ahogado) FinPorAhogado();
+    }
+    MovimientoAnulado();
+    return PasoQtr::Sigue;
+}
+
+void TimerRetrasoQtr() {
+    if (!TipoPartida.empty() && Conectado)
+        Turno = static_cast<int16_t>(entorno().PreguntarColorRed());
+    if (!TipoPartida.empty()) {
+        ColorInicio = ColorInicio == 1 ? 2 : 1;
+        if (!Conectado) Turno = static_cast<int16_t>(ColorInicio);
+        ColorJugador = Turno == 1 ? "Blancas" : Turno == 2 ? "Negras" : "";
+        if (Conectado) {
+            entorno().EnviarMensaje(std::string("QTR T ") + (Turno == 1 ? "N" : "B"));
+            if (Turno != ColorInicio) {
+                Turno = 0;
+                entorno().EnviarMensaje("QTR T " + std::to_string(ColorInicio));
+            } else {
+                entorno().EnviarMensaje("QTR T 0");
+            }
+        }
+    }
+    if (!entorno().ListaPgnVisible()) entorno().MostrarVentanas();
+    LineasPartida.assign(2, std::string());
+    if (!Jugadas::List[1].empty() && Conectado) entorno().EnviarMensaje("QTR Terminado");
+    entorno().RedibujarTablero();
+    Cargando = false;
+    if (Jugadas::List[1].empty()) {
+        entorno().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
+        RelojesCero();
+    }
+}
+
+bool ReproducirQtr(const std::string& ruta) {
+    if (!AbrirQtr(ruta)) return false;
+    for (;;) {
+        switch (SendQtr()) {
+        case PasoQtr::Sigue:
+            continue;
+        case PasoQtr::Final:
+            TimerRetrasoQtr();
+            return true;
+        case PasoQtr::Rehusada:
+            return false;
+        }
+    }
+}
+
+} // namespace Variables
