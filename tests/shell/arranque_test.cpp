@@ -1,0 +1,243 @@
+// The whole program started offscreen in this process and closed again, with real files.
+#include "prueba_programa.h"
+
+#include "platform/ini_file.h"
+#include "platform/programa.h"
+#include "platform/texto.h"
+#include "shell/arranque.h"
+#include "shell/chat.h"
+#include "shell/enlaces.h"
+#include "shell/formularios.h"
+#include "shell/idioma.h"
+#include "shell/jugadas.h"
+#include "shell/mdi.h"
+#include "shell/opciones.h"
+#include "shell/quintarena.h"
+#include "shell/ranking.h"
+#include "shell/reloj.h"
+#include "shell/splash.h"
+#include "shell/ventanas.h"
+
+#include <QAction>
+#include <QCoreApplication>
+#include <QLabel>
+#include <QMenuBar>
+#include <QTimer>
+#include <QToolBar>
+#include <gtest/gtest.h>
+#include <regex>
+
+namespace fs = std::filesystem;
+using namespace qa;
+using prueba::Cajas;
+using prueba::Carpeta;
+
+namespace {
+
+std::string SinRegistro(std::string ini) {
+    return std::regex_replace(ini, std::regex("Regit(Qtr|Pgn|Epd)=[01]"), "Regit$1=?");
+}
+
+TEST(Programa, StartsShowsEverythingAndClosesWithSettingsAsRead) {
+    Carpeta c;
+    Cajas cajas;
+    cajas.respuestas = {kRespuestaNo, kRespuestaSi}; // PGN: no; EPD: yes
+    const std::string antes = c.Leer("Default.ini");
+    ASSERT_TRUE(Main({"quintarena"}));
+    auto& f = Forms();
+    ASSERT_TRUE(f.mdi && f.quintarena);
+
+    // Texts of the language file on the window, the menu and the panels.
+    EXPECT_EQ(f.mdi->windowTitle().toStdString(),
+              "Quintarena Versión 1.55 - " + LeerIni(c.Ruta("Español.lng"), "Autor", "Nombre"));
+    EXPECT_EQ(Entrada("mnuArchivos")->text().toStdString(), Texto("Menu", "Menu1"));
+    EXPECT_EQ(Entrada("mnuArchivos")->text().toStdString(),
+              LeerIni(c.Ruta("Español.lng"), "Menu", "Menu1"));
+    EXPECT_EQ(f.mdi->menuBar()->actions().size(), 5);
+    EXPECT_EQ(f.mdi->Boton(1)->toolTip().toStdString(), Texto("Tips", "1"));
+    EXPECT_EQ(f.mdi->Boton(25)->toolTip().toStdString(), Texto("Tips", "30"));
+    EXPECT_EQ(f.reloj->windowTitle().toStdString(), Texto("Reloj", "Titulo"));
+    EXPECT_FALSE(Mensajes[109].empty());
+
+    // All four panels are checked in the shipped settings and come up with the board.
+    EXPECT_TRUE(f.quintarena->isVisible());
+    for (QWidget* p : {static_cast<QWidget*>(f.reloj), static_cast<QWidget*>(f.chat),
+                       static_cast<QWidget*>(f.jugadas), static_cast<QWidget*>(f.ranking)})
+        EXPECT_TRUE(p->isVisible()) << p->objectName().toStdString();
+    EXPECT_TRUE(f.ranking->Label(4)->text().endsWith(": 1200"));
+    EXPECT_FALSE(f.splash->isVisible());
+    EXPECT_FALSE(f.splash->EstadoVisible()); // ready as the about box
+    EXPECT_EQ(f.mdi->TStatus()->interval(), 10000);
+
+    // The questions for PGN and EPD, nothing else.
+    ASSERT_EQ(cajas.vistas.size(), 2u);
+    EXPECT_EQ(cajas.vistas[0].texto, Mensajes[70]);
+    EXPECT_EQ(cajas.vistas[1].texto, Mensajes[85]);
+    EXPECT_TRUE(fs::exists(c.Ruta("share/mime/packages/quintarena-qtrfile.xml")));
+    EXPECT_FALSE(fs::exists(c.Ruta("share/mime/packages/quintarena-pgnfile.xml")));
+    EXPECT_TRUE(fs::exists(c.Ruta("share/applications/quintarena-epdfile.desktop")));
+
+    // A fresh installation writes its record at the first start.
+    EXPECT_EQ(fs::file_size(c.Ruta("Puntuacion.dat")), 20u);
+
+    f.mdi->close();
+    EXPECT_TRUE(FinPrograma());
+    const std::string despues = c.Leer("Default.ini");
+    EXPECT_EQ(SinRegistro(despues), SinRegistro(antes));
+    for (const char* k : {"RegitQtr", "RegitPgn", "RegitEpd"})
+        EXPECT_EQ(LeerIni(c.Ruta("Default.ini"), "Configuracion", k), "1") << k;
+    const std::string dat = c.Leer("Puntuacion.dat");
+    ASSERT_EQ(dat.size(), 20u);
+    EXPECT_EQ(dat.substr(16), std::string("\xB0\x04\0\0", 4)); // 1200 points
+    EXPECT_EQ(dat.substr(0, 16), std::string(16, '\0'));
+}
+
+TEST(Programa, ClosingWhileConnectedWaitsAndSavesOnTheSecondClose) {
+    Carpeta c;
+    Cajas cajas;
+    ASSERT_TRUE(Main({"quintarena"}));
+    const std::string antes = c.Leer("Default.ini");
+    bool conectado = true;
+    int desconexiones = 0;
+    Enlace().Conectado = [&] { return conectado; };
+    Enlace().Desconectar = [&] { ++desconexiones; };
+    Marcar("mnuReloj", false);
+
+    EXPECT_FALSE(Forms().mdi->close());
+    EXPECT_TRUE(CierrePendiente);
+    EXPECT_FALSE(FinPrograma());
+    EXPECT_EQ(desconexiones, 1);
+    EXPECT_EQ(c.Leer("Default.ini"), antes);
+
+    conectado = false; // the network layer, once the link is down
+    EXPECT_TRUE(Forms().mdi->close());
+    EXPECT_TRUE(FinPrograma());
+    EXPECT_EQ(LeerIni(c.Ruta("Default.ini"), "Configuracion", "Reloj"), "0");
+}
+
+TEST(Programa, PanelKeysKeepTheirValuesWhileABrowserIsUp) {
+    Carpeta c;
+    Cajas cajas;
+    ASSERT_TRUE(Main({"quintarena"}));
+    bool browser = false;
+    Enlace().ListaPgnVisible = [&] { return browser; };
+    OcultarVentanas(false); // as the PGN browser does when it comes up
+    browser = true;
+    EXPECT_FALSE(Marcada("mnuMovimientos"));
+    EXPECT_FALSE(Forms().chat->isVisible());
+    Entrada("mnuReloj")->trigger(); // the toggles do nothing meanwhile
+    EXPECT_FALSE(Marcada("mnuReloj"));
+    Marcar("mnuSonido", false);
+    Forms().mdi->close();
+    for (const char* k : {"Jugadas", "Chat", "Reloj", "Elo", "Sonido"})
+        EXPECT_EQ(LeerIni(c.Ruta("Default.ini"), "Configuracion", k), "1") << k;
+}
+
+TEST(Programa, MissingSettingsEndTheStartAndCreateNothing) {
+    Carpeta c;
+    Cajas cajas;
+    fs::remove(c.Ruta("Default.ini"));
+    EXPECT_FALSE(Main({"quintarena"}));
+    ASSERT_EQ(cajas.vistas.size(), 1u);
+    EXPECT_EQ(cajas.vistas[0].texto, "El fichero Default.ini no se ha encontrado.");
+    EXPECT_FALSE(fs::exists(c.Ruta("Default.ini")));
+    EXPECT_FALSE(fs::exists(c.Ruta("Puntuacion.dat")));
+}
+
+TEST(Programa, NoMatchingLanguageEndsTheProgram) {
+    Carpeta c;
+    Cajas cajas;
+    c.Ajustar("Configuracion", "Idioma", "Deutsch");
+    EXPECT_FALSE(Main({"quintarena"}));
+    EXPECT_TRUE(cajas.Hay("Fichero de idioma no encontrado."));
+}
+
+TEST(Programa, WrongVersionOfTheFirstLanguageFileUnloadsTheMainWindow) {
+    Carpeta c;
+    Cajas cajas;
+    c.Escribir("Alemán.lng", "[Version]\r\nVersion=1.40\r\n");
+    EXPECT_FALSE(Main({"quintarena"}));
+    EXPECT_TRUE(cajas.Hay("Versión del idioma incorrecto."));
+    EXPECT_TRUE(FinPrograma());
+}
+
+TEST(Programa, LanguageFileMissingAKeyFallsBackToSpanish) {
+    Carpeta c;
+    Cajas cajas;
+    std::string ingles = c.Leer("English.lng");
+    ingles = std::regex_replace(ingles, std::regex("\nMenu12=[^\r\n]*"), "");
+    c.Escribir("English.lng", ingles);
+    c.Ajustar("Configuracion", "Idioma", "English");
+    fs::remove(c.Ruta("Español.lng")); // English is then the only entry, and current
+    const auto antes = fs::current_path();
+    fs::current_path(c.Ruta());
+    const bool arrancado = Main({"quintarena"});
+    fs::current_path(antes);
+    EXPECT_TRUE(arrancado);
+    EXPECT_TRUE(cajas.Hay("Fichero de idioma incorrecto.\r\nCambie el fíchero."));
+    // Written to the plain name in the current folder, which here is the program's.
+    EXPECT_EQ(LeerIni(c.Ruta("Default.ini"), "Configuracion", "Idioma"), "Español");
+    EXPECT_EQ(Entrada("mnuNuevaPartida")->text(), "");
+}
+
+TEST(Programa, CommandLineHandsTheLowerCasedNameToItsLoader) {
+    Carpeta c;
+    Cajas cajas;
+    std::vector<std::string> pgn, qtr;
+    Enlace().CargarPgn = [&](const std::string& n) { pgn.push_back(n); };
+    Enlace().AbrirQtr = [&](const std::string& n) { qtr.push_back(n); };
+    fs::create_directories(c.Ruta("Partidas"));
+    c.Escribir("Partidas/Final.PGN", "[Event \"x\"]\n");
+    const std::string ruta = c.Ruta("Partidas/Final.PGN").string();
+    ASSERT_TRUE(Main({"quintarena", "\"" + ruta + "\""}));
+    ASSERT_EQ(pgn.size(), 1u);
+    EXPECT_EQ(pgn[0], Minusculas(ruta));
+    EXPECT_FALSE(Forms().chat->isVisible()); // a PGN does not bring up the panels
+
+    AbrirLineaDeOrdenes("/x/notas.txt");
+    EXPECT_FALSE(Forms().reloj->isVisible());
+    AbrirLineaDeOrdenes("/x/partida.qtr");
+    EXPECT_TRUE(Forms().reloj->isVisible());
+    EXPECT_EQ(qtr, std::vector<std::string>{"/x/partida.qtr"});
+}
+
+TEST(LineaDeOrdenes, QuotesCaseAndShortNames) {
+    EXPECT_EQ(NombreDeLineaDeOrdenes(""), "");
+    EXPECT_EQ(NombreDeLineaDeOrdenes("\"/Home/Ana/Mi Partida.QTR\""), "/home/ana/mi partida.qtr");
+    EXPECT_EQ(NombreDeLineaDeOrdenes("/Home/Ana/X.Pgn"), "/home/ana/x.pgn");
+    // A "~" name is looked up before the quotes: a missing one comes out empty.
+    EXPECT_EQ(NombreDeLineaDeOrdenes("\"/nada/PARTID~1.QTR\""), "");
+}
+
+TEST(Programa, DroppedFiles) {
+    Carpeta c;
+    Cajas cajas;
+    std::vector<std::string> abiertos;
+    Enlace().AbrirQtr = [&](const std::string& n) { abiertos.push_back(n); };
+    Enlace().AbrirEpd = Enlace().AbrirQtr;
+    c.Escribir("a.qtr", "x");
+    c.Escribir("B.EPD", "x");
+    ASSERT_TRUE(Main({"quintarena"}));
+    Forms().mdi->FileDrop(c.Ruta("a.qtr").string());
+    Forms().mdi->FileDrop(c.Ruta("B.EPD").string()); // from the board, as it came: ignored
+    Forms().mdi->FileDrop(Minusculas(c.Ruta("B.EPD").string())); // from the main window
+    ASSERT_EQ(abiertos.size(), 2u);
+    EXPECT_EQ(abiertos[1], Minusculas(c.Ruta("B.EPD").string()));
+}
+
+TEST(Idiomas, ShippedFilesHoldEveryKey) {
+    const fs::path dir = QCoreApplication::applicationDirPath().toStdString();
+    FijarDirectorioPrograma(dir.string());
+    int avisos = 0;
+    FijarAvisoIdiomaIncorrecto([&] { ++avisos; });
+    for (const char* f : {"Español.lng", "English.lng"}) {
+        FijarIdioma(f);
+        EXPECT_TRUE(LeerTextosIdioma()) << f;
+        EXPECT_EQ(avisos, 0) << f;
+        EXPECT_NE(Mensajes[28].find('$'), std::string::npos) << f;
+        EXPECT_NE(Mensajes[63].find('$'), std::string::npos) << f;
+    }
+    FijarAvisoIdiomaIncorrecto(nullptr);
+}
+
+} // namespace

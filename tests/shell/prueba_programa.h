@@ -1,0 +1,47 @@
+#pragma once
+// A scratch copy of the program's folder and answers for the message boxes, so the shell can be
+// started and closed in the test process, offscreen.
+#include "shell/servicios.h"
+
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace prueba {
+
+struct Caja {
+    std::string titulo, texto;
+    int icono = 0, botones = 0;
+};
+
+class Carpeta {
+public:
+    // Copies Default.ini, the language files and the sounds that lie beside the test.
+    Carpeta();
+    ~Carpeta();
+    std::filesystem::path Ruta(const std::string& nombre = "") const { return dir_ / nombre; }
+    std::string Leer(const std::string& nombre) const;
+    void Escribir(const std::string& nombre, const std::string& bytes) const;
+    // Sets one line "clave=valor" of Default.ini, the rest kept.
+    void Ajustar(const std::string& seccion, const std::string& clave, const std::string& valor);
+
+private:
+    std::filesystem::path dir_;
+};
+
+// Records every box; Yes/No boxes take the next queued answer, or No.
+class Cajas {
+public:
+    Cajas();
+    ~Cajas();
+    std::vector<Caja> vistas;
+    std::deque<int> respuestas;
+    bool Hay(const std::string& texto) const;
+};
+
+// Runs the event loop until `condicion` holds or the time is up.
+bool Esperar(const std::function<bool()>& condicion, int milisegundos = 5000);
+
+} // namespace prueba
