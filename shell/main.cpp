@@ -1,4 +1,7 @@
+#include "platform/senales.h"
 #include "shell/arranque.h"
+#include "shell/formularios.h"
+#include "shell/mdi.h"
 
 #include <QApplication>
 #include <string>
@@ -11,6 +14,9 @@ int main(int argc, char** argv) {
     app.setQuitOnLastWindowClosed(false);
     std::vector<std::string> argumentos;
     for (const QString& a : QCoreApplication::arguments()) argumentos.push_back(a.toStdString());
+    qa::AlTerminar([] {
+        if (qa::Forms().mdi) qa::Forms().mdi->Descargar();
+    });
     int codigo = 0;
     if (qa::Main(argumentos)) codigo = app.exec();
     qa::LiberarFormularios();
