@@ -62,6 +62,15 @@ void MovimientoAnulado() {
     Ataque = Jaque = Mate = Ahogado = false;
 }
 
+int32_t ValorTexto(const std::string& texto) {
+    int32_t v = 0;
+    for (char ch : texto) {
+        if (ch < '0' || ch > '9' || v > 100000) break; // large enough for any code, never overflows
+        v = v * 10 + (ch - '0');
+    }
+    return v;
+}
+
 bool ReproduciendoPartida() {
     return LineasPartida.size() > 1 && !LineasPartida[1].empty();
 }

@@ -101,6 +101,9 @@ void LimpiarTablero();
 // Whether a game file is under replay (its first line is not empty).
 bool ReproduciendoPartida();
 
+// The leading number of a text, as the old records and fields are read; 0 when none.
+int32_t ValorTexto(const std::string& texto);
+
 // Everything back to the state of a freshly started program (tests, fuzzing).
 void RestablecerTodo();
 

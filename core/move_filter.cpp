@@ -301,44 +301,28 @@ void ReglaRey(int32_t primero, int32_t ultimo) {
 
 void ReglasPieza() {
     MovimientoValido = false;
-    switch (FichaMovida) {
+    if (!EsBlanca(FichaMovida) && !EsNegra(FichaMovida)) return;
+    const bool blanco = EsBlanca(FichaMovida);
+    const int32_t primero = blanco ? 7 : 1, ultimo = blanco ? 12 : 6; // the enemy's codes
+    switch (blanco ? FichaMovida : FichaMovida - 6) {
     case PeonB:
-        ReglaPeon(true);
+        ReglaPeon(blanco);
         break;
     case TorreB:
-        ReglaTorre(7, 12);
+        ReglaTorre(primero, ultimo);
         break;
     case CaballoB:
-        ReglaCaballo(7, 12);
+        ReglaCaballo(primero, ultimo);
         break;
     case AlfilB:
-        ReglaAlfil(7, 12);
+        ReglaAlfil(primero, ultimo);
         break;
     case DamaB:
-        ReglaAlfil(7, 12);
-        ReglaTorre(7, 12);
+        ReglaAlfil(primero, ultimo);
+        ReglaTorre(primero, ultimo);
         break;
     case ReyB:
-        ReglaRey(7, 12);
-        break;
-    case PeonN:
-        ReglaPeon(false);
-        break;
-    case TorreN:
-        ReglaTorre(1, 6);
-        break;
-    case CaballoN:
-        ReglaCaballo(1, 6);
-        break;
-    case AlfilN:
-        ReglaAlfil(1, 6);
-        break;
-    case DamaN:
-        ReglaAlfil(1, 6);
-        ReglaTorre(1, 6);
-        break;
-    case ReyN:
-        ReglaRey(1, 6);
+        ReglaRey(primero, ultimo);
         break;
     default:
         break;

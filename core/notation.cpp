@@ -22,15 +22,6 @@ std::string DigitoFila(int fila) {
     return EnCasilla(fila) ? std::to_string(fila) : std::string();
 }
 
-int ValorTexto(const std::string& s) {
-    int v = 0;
-    for (char ch : s) {
-        if (ch < '0' || ch > '9' || v > 100000) break;
-        v = v * 10 + (ch - '0');
-    }
-    return v;
-}
-
 const char* LetraPieza(int32_t p) {
     switch (p) {
     case TorreB:

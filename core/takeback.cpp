@@ -10,16 +10,6 @@ namespace Variables {
 
 namespace {
 
-// The leading number of a text, as the records were written; 0 when none.
-int32_t Valor(const std::string& s) {
-    int32_t v = 0;
-    for (char ch : s) {
-        if (ch < '0' || ch > '9' || v > 100000) break;
-        v = v * 10 + (ch - '0');
-    }
-    return v;
-}
-
 // Rights come back by the digit: 0 sets both flags, the others clear.
 void RestaurarDerechos(int32_t rey, int32_t digito) {
     bool& a = rey == ReyB ? TorreA1Movida : TorreA8Movida;
@@ -46,18 +36,18 @@ void Deshacer(const std::string& s) {
     if (s.size() == 4 || tipo == 't') {
         if (s.size() > 4) {
             const int32_t pieza = Tablero[c2][r2];
-            if (pieza == ReyB || pieza == ReyN) RestaurarDerechos(pieza, Valor(resto));
+            if (pieza == ReyB || pieza == ReyN) RestaurarDerechos(pieza, ValorTexto(resto));
         }
         Tablero[c1][r1] = Tablero[c2][r2];
         Tablero[c2][r2] = 0;
     } else if (tipo == 'x') {
         const size_t t = resto.find('t');
         Tablero[c1][r1] = Tablero[c2][r2];
-        Tablero[c2][r2] = Valor(resto.substr(0, t));
+        Tablero[c2][r2] = ValorTexto(resto.substr(0, t));
         if (t != std::string::npos) {
             const int32_t pieza = Tablero[c1][r1];
             if (pieza == ReyB || pieza == ReyN)
-                RestaurarDerechos(pieza, Valor(resto.substr(t + 1)));
+                RestaurarDerechos(pieza, ValorTexto(resto.substr(t + 1)));
         }
     } else if (tipo == 'e') {
         if (c2 == 7 && r2 == 8) Tablero[6][8] = 0, Tablero[8][8] = TorreN;
@@ -67,7 +57,7 @@ void Deshacer(const std::string& s) {
         const int32_t rey = Tablero[c2][r2];
         Tablero[c1][r1] = rey;
         Tablero[c2][r2] = 0;
-        if (rey == ReyB || rey == ReyN) RestaurarDerechos(rey, Valor(resto));
+        if (rey == ReyB || rey == ReyN) RestaurarDerechos(rey, ValorTexto(resto));
     } else if (tipo == 'p') {
         const int32_t pieza = Tablero[c2][r2];
         Tablero[c1][r1] = pieza;
@@ -75,13 +65,13 @@ void Deshacer(const std::string& s) {
         if (!resto.empty() && Digito18(resto.front()) && Digito18(resto.back()))
             Tablero[resto.front() - '0'][resto.back() - '0'] = pieza != PeonB ? PeonB : PeonN;
         AlPasoPosible = true;
-        AlPasoCasilla = Valor(resto);
+        AlPasoCasilla = ValorTexto(resto);
         AlPasoCaduca = true;
     } else if (tipo == 'c') {
         // The side now to move tells whose pawn comes back.
         Tablero[c1][r1] = Turno == 2 ? PeonB : PeonN;
         const size_t x = resto.find('x');
-        Tablero[c2][r2] = x == std::string::npos ? 0 : Valor(resto.substr(x + 1));
+        Tablero[c2][r2] = x == std::string::npos ? 0 : ValorTexto(resto.substr(x + 1));
     } else {
         return;
     }
