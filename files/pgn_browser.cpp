@@ -9,6 +9,7 @@
 #include "files/pgn_moves.h"
 #include "files/pgn_scanner.h"
 #include "files/pgn_text.h"
+#include "files/qtr_replay.h"
 
 #include <algorithm>
 
@@ -48,13 +49,9 @@ bool JugarEntradaPgn(size_t i) {
     if (e.size() < 4) return false;
     Origen = e.substr(0, 2);
     Destino = e.substr(2, 2);
-    if (e.size() >= 5) {
-        const int64_t pieza = PgnTexto::ValorNumero(e.substr(4));
-        if (pieza > 12) {
-            MovimientoAnulado();
-            return false;
-        }
-        PiezaCoronacion = static_cast<int32_t>(pieza);
+    if (!LeerCoronacion(e)) {
+        MovimientoAnulado();
+        return false;
     }
     FiltroMovimiento();
     const bool valido = MovimientoValido;

@@ -137,6 +137,9 @@ void Figura(const std::string& j, int color) {
 
     OtraCol.clear();
     OtraFila.clear();
+    // A rival found by an earlier search (the notation writer's too) must not
+    // send a queen with a written origin to another square.
+    OtraPieza = false;
     size_t a = En(j, 2) == 'x' ? 3 : 2;
     const char comoFila = En(j, a + 1);
     if ((comoFila >= 'a' && comoFila <= 'h') || comoFila == 'x') {

@@ -1,5 +1,6 @@
 #include "files/qtr_replay.h"
 
+#include "core/check_detection.h"
 #include "core/environment.h"
 #include "core/game_end.h"
 #include "core/game_state.h"
@@ -146,13 +147,7 @@ PasoQtr SendQtr() {
     if (ColorInicio == 1) Turno = 2;
     Origen = s.substr(0, 2);
     Destino = s.substr(2, 2);
-    bool legible = true;
-    if (s.size() > 4) {
-        // A promotion code that no piece has is a damaged line.
-        const int64_t pieza = PgnTexto::ValorNumero(s.substr(4));
-        legible = pieza <= 12;
-        PiezaCoronacion = legible ? static_cast<int32_t>(pieza) : 0;
-    }
+    const bool legible = LeerCoronacion(s);
     if (legible) FiltroMovimiento();
     if (!legible || !MovimientoValido) {
         Rehusar();
@@ -203,6 +198,21 @@ void TimerRetrasoQtr() {
         entorno().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
         RelojesCero();
     }
+}
+
+bool LeerCoronacion(const std::string& linea) {
+    if (linea.size() <= 4) return true;
+    const int64_t pieza = PgnTexto::ValorNumero(linea.substr(4));
+    if (pieza <= 12) {
+        PiezaCoronacion = static_cast<int32_t>(pieza);
+        return true;
+    }
+    PiezaCoronacion = 0;
+    int co, fo, cd, fd;
+    LeerCasilla(linea.substr(0, 2), co, fo);
+    LeerCasilla(linea.substr(2, 2), cd, fd);
+    const int32_t p = EnCasilla(co) && EnCasilla(fo) ? Tablero[co][fo] : 0;
+    return !((p == PeonB && fd == 8) || (p == PeonN && fd == 1));
 }
 
 bool ReproducirQtr(const std::string& ruta) {

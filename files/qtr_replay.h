@@ -20,6 +20,9 @@ bool AbrirQtr(const std::string& ruta);
 PasoQtr SendQtr();
 // The tick of TimerRetrasoQTR that ends a replay.
 void TimerRetrasoQtr();
+// PiezaCoronacion from the digits behind the four of a stored move. False
+// when they name no piece and the move would promote: a damaged line.
+bool LeerCoronacion(const std::string& linea);
 // The whole replay at once, for the console: true if it reached the end.
 bool ReproducirQtr(const std::string& ruta);
 

@@ -4,7 +4,7 @@ set -euo pipefail
 pkgs=(cmake ninja-build g++ clang libclang-rt-14-dev clang-format
       qt6-base-dev qt6-svg-dev qt6-multimedia-dev libgl-dev
       libgtest-dev libbenchmark-dev xvfb xauth imagemagick fonts-dejavu-core
-      sox librsvg2-bin)
+      sox librsvg2-bin pgn-extract npm)
 missing=()
 for p in "${pkgs[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")

@@ -148,6 +148,10 @@ public:
         errores_ << "message " << titulo << ": " << (traductor_ ? traductor_(texto) : texto)
                  << std::endl;
     }
+    // The text of a message that a caller adds to, as the game files do.
+    std::string Mensaje(int n) override {
+        return traductor_ ? traductor_(std::to_string(n)) : std::to_string(n);
+    }
 
 private:
     std::ostream& errores_;
