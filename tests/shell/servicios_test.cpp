@@ -14,9 +14,13 @@
 #include "shell/quintarena.h"
 #include "shell/reloj.h"
 #include "shell/servicios.h"
+#include "shell/splash.h"
+#include "shell/ventanas.h"
 
 #include <QAction>
 #include <QDate>
+#include <QLabel>
+#include <QTest>
 #include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
@@ -193,6 +197,46 @@ TEST_F(Arrancado, SavedChatAndPictureGoThroughTheDialog) {
     EXPECT_GT(fs::file_size(c.Ruta("Tablero.bmp")), 0u);
     EXPECT_EQ(cajas.vistas.back().texto, Mensajes[37]);
     FijarPresentadorDialogos(nullptr);
+}
+
+TEST_F(Arrancado, AboutBoxAndItsClose) {
+    Splash* s = Forms().splash;
+    EXPECT_FALSE(s->isVisible());
+    Entrada("mnuAcerca")->trigger();
+    EXPECT_TRUE(s->isVisible());
+    EXPECT_FALSE(s->EstadoVisible());
+    EXPECT_FALSE(s->Label(5)->isHidden());
+    EXPECT_EQ(s->Label(3)->text().toStdString(), Mensajes[61]);
+    s->close(); // never destroyed, only hidden
+    EXPECT_FALSE(s->isVisible());
+    Entrada("mnuAcerca")->trigger();
+    QTest::mouseClick(s, Qt::RightButton);
+    EXPECT_FALSE(s->isVisible());
+}
+
+TEST_F(Arrancado, PanelsComeBackFromTheirKeys) {
+    c.Ajustar("Configuracion", "Chat", "0");
+    c.Ajustar("Configuracion", "Reloj", "1");
+    Marcar("mnuReloj", false);
+    Forms().reloj->hide();
+    MostrarVentanas();
+    EXPECT_FALSE(Marcada("mnuVentanaChat"));
+    EXPECT_TRUE(Marcada("mnuReloj"));
+    EXPECT_TRUE(Forms().reloj->isVisible());
+}
+
+TEST_F(Arrancado, RestoringAfterMaximiseTakesTheStoredSize) {
+    Mdi* mdi = Forms().mdi;
+    c.Ajustar("Mdi", "Width", "9000");
+    c.Ajustar("Mdi", "Height", "6000");
+    mdi->showMaximized();
+    prueba::Esperar([&] { return mdi->isMaximized(); }, 1000);
+    mdi->showNormal();
+    ASSERT_TRUE(prueba::Esperar([&] { return mdi->width() == 600 && mdi->height() == 400; }, 2000))
+        << mdi->width() << "x" << mdi->height();
+    mdi->resize(100, 50); // below the smallest main window
+    EXPECT_EQ(mdi->width(), 520);
+    EXPECT_EQ(mdi->height(), 100);
 }
 
 TEST(Pantalla, ColoursAndWidth) {
