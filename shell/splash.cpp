@@ -31,15 +31,14 @@ Splash::Splash(QWidget* padre)
     titulo.setPointSize(15);
     titulo.setBold(true);
     etiquetas_[1]->setFont(titulo);
-    etiquetas_[1]->move(14, 150);
     etiquetas_[2]->move(14, 200);
     for (int i : {3, 4, 5, 6}) etiquetas_[i]->setStyleSheet("color: #f4f0e0");
     etiquetas_[1]->setStyleSheet("color: #ffffff");
     etiquetas_[2]->setStyleSheet("color: #f4f0e0");
-    etiquetas_[3]->move(14, 190);
-    etiquetas_[5]->move(90, 190);
-    etiquetas_[4]->move(14, 214);
-    etiquetas_[6]->move(90, 214);
+    etiquetas_[3]->move(14, 180);
+    etiquetas_[5]->move(24, 197);
+    etiquetas_[4]->move(14, 218);
+    etiquetas_[6]->move(24, 235);
     const QString enlace("<a style='color:#f4f0e0' href='%1'>%2</a>");
     etiquetas_[5]->setText(enlace.arg(kDireccionWeb, kDireccionWeb));
     etiquetas_[6]->setText(
@@ -51,7 +50,8 @@ Splash::Splash(QWidget* padre)
                 [](const QString& url) { QDesktopServices::openUrl(QUrl(url)); });
     }
     Lsize(etiquetas_[1], QString("Quintarena") + " versión " + kVersionIdioma + " para Windows",
-          kAncho);
+          kAncho - 8);
+    etiquetas_[1]->move((kAncho - etiquetas_[1]->width()) / 2, 146);
     Lsize(etiquetas_[2], "Espere por favor mientras Quintarena se carga.", kAncho - 18);
     connect(descarga_, &Descarga::Completada, this, &FinActualizacion);
     connect(descarga_, &Descarga::Fallida, this, &FalloActualizacion);
