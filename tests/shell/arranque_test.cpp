@@ -201,6 +201,32 @@ TEST(Programa, CommandLineHandsTheLowerCasedNameToItsLoader) {
     EXPECT_EQ(qtr, std::vector<std::string>{"/x/partida.qtr"});
 }
 
+TEST(Programa, JunkSettingsAreRefusedAndTheProgramRuns) {
+    Carpeta c;
+    Cajas cajas;
+    std::string ini = std::regex_replace(c.Leer("Default.ini"), std::regex("=[^\r\n]*"),
+                                         "=1e999x" + std::string(300, '9'));
+    c.Escribir("Default.ini", ini);
+    c.Ajustar("Configuracion", "Idioma", "Español");
+    ASSERT_TRUE(Main({"quintarena"}));
+    EXPECT_TRUE(cajas.vistas.empty()); // junk Regit keys register nothing and ask nothing
+    Forms().mdi->close();
+    EXPECT_TRUE(FinPrograma());
+}
+
+TEST(Programa, DamagedRankingStartsAgainAt1200) {
+    Carpeta c;
+    Cajas cajas;
+    // 5 played but 1 won and nothing else: the counters do not add up.
+    c.Escribir("Puntuacion.dat", std::string("\5\0\0\0\1\0\0\0\0\0\0\0\0\0\0\0\x10\x27\0\0", 20));
+    ASSERT_TRUE(Main({"quintarena"}));
+    EXPECT_TRUE(Forms().ranking->Label(4)->text().endsWith(": 1200"));
+    EXPECT_TRUE(Forms().ranking->Label(0)->text().endsWith(": 0"));
+    const std::string dat = c.Leer("Puntuacion.dat");
+    EXPECT_EQ(dat, std::string(16, '\0') + std::string("\xB0\x04\0\0", 4));
+    Forms().mdi->close();
+}
+
 TEST(LineaDeOrdenes, QuotesCaseAndShortNames) {
     EXPECT_EQ(NombreDeLineaDeOrdenes(""), "");
     EXPECT_EQ(NombreDeLineaDeOrdenes("\"/Home/Ana/Mi Partida.QTR\""), "/home/ana/mi partida.qtr");
