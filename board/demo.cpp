@@ -124,10 +124,6 @@ int main(int argc, char** argv) {
     tamano->setValue(opciones.value("size").toInt());
     vista->PonerTamano(tamano->value(), false);
     vista->PonerLineas(opciones.isSet("lines"));
-    if (opciones.isSet("skin")) {
-        vista->PonerApariencia(opciones.value("skin"));
-        skins->setCurrentText(vista->Apariencia());
-    }
     QObject::connect(skins, &QComboBox::textActivated, vista, &qa::VistaTablero::PonerApariencia);
     QObject::connect(vista, &qa::VistaTablero::AparienciaCambiada, skins,
                      &QComboBox::setCurrentText);
@@ -142,10 +138,6 @@ int main(int argc, char** argv) {
     }
     ventana.show();
     ventana.adjustSize();
-
-    const QStringList jugadas = opciones.value("moves").split(' ', Qt::SkipEmptyParts);
-    QTimer::singleShot(100, [jugadas] { Jugar(jugadas); });
-    if (opciones.isSet("setup")) QTimer::singleShot(150, set, &QWidget::show);
     if (opciones.isSet("grab")) {
         const QString fichero = opciones.value("grab");
         QTimer::singleShot(opciones.value("wait").toInt(), [fichero] {
@@ -156,6 +148,19 @@ int main(int argc, char** argv) {
                 if (auto* d = qobject_cast<QDialog*>(w); d && d->isVisible()) d->reject();
         });
     }
+    if (opciones.isSet("skin"))
+        QTimer::singleShot(50, [vista, skins, nombre = opciones.value("skin")] {
+            skins->setCurrentText(nombre);
+            vista->PonerApariencia(nombre);
+        });
+
+    const QStringList jugadas = opciones.value("moves").split(' ', Qt::SkipEmptyParts);
+    QTimer::singleShot(100, [jugadas] { Jugar(jugadas); });
+    if (opciones.isSet("setup"))
+        QTimer::singleShot(150, [set, &ventana] {
+            set->show();
+            set->move(ventana.geometry().right() - set->width(), ventana.geometry().top() + 40);
+        });
     const int r = app.exec();
     InstalarEntorno(nullptr);
     return r;
