@@ -1,10 +1,10 @@
 // One drag step at 60-pixel squares: the board copied back, the piece drawn at the cursor, the
 // legality probe and the cursor, as each mouse move of a drag does them. Target: under 2 ms.
 #include "board/entorno_tablero.h"
+#include "board/partida_local.h"
 #include "board/vista_tablero.h"
 
 #include "core/game_state.h"
-#include "core/move_list.h"
 
 #include <QApplication>
 #include <benchmark/benchmark.h>
@@ -19,12 +19,8 @@ void PasoDeArrastre(benchmark::State& estado) {
     InstalarEntorno(&entorno);
     vista.PonerTamano(60, false);
     vista.Redimensionar();
-    Jugadas::Vaciar();
-    PonerFichas();
-    VariablesCero();
-    Turno = 1;
     qa::PicBuffer& pic = *vista.Picture();
-    pic.RedibujarTablero();
+    qa::PartidaLocal(pic);
     const int medio = pic.AnchoCasilla / 2;
     pic.MouseDown(Qt::LeftButton, 3 * pic.AnchoCasilla + medio, 6 * pic.AltoCasilla + medio);
     int paso = 0;

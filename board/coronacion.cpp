@@ -9,7 +9,6 @@
 
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QVBoxLayout>
@@ -20,28 +19,14 @@ namespace {
 constexpr int kLado = 40;
 }
 
-CajaCoronacion::CajaCoronacion(int indice, QWidget* parent) : QWidget(parent), indice_(indice) {
-    setFixedSize(kLado, kLado);
-    setCursor(Qt::PointingHandCursor);
-}
-
-void CajaCoronacion::paintEvent(QPaintEvent*) {
-    QPainter p(this);
-    p.drawImage(0, 0, imagen_);
-}
-
-void CajaCoronacion::mousePressEvent(QMouseEvent* e) {
-    if (e->button() == Qt::LeftButton) emit Elegida(indice_);
-}
-
 Coronacion::Coronacion(PicBuffer& tablero, QWidget* parent) : QDialog(parent), tablero_(tablero) {
     setWindowTitle(TextoForma("Coronacion", "Titulo", "Promotion"));
     auto* frame1 = new QGroupBox(this);
     auto* fila = new QHBoxLayout(frame1);
     for (int i = 1; i <= 4; ++i) {
-        cajas_[i] = new CajaCoronacion(i, frame1);
+        cajas_[i] = new CuadroPieza(i, kLado, frame1);
         fila->addWidget(cajas_[i]);
-        connect(cajas_[i], &CajaCoronacion::Elegida, this, [this](int indice) {
+        connect(cajas_[i], &CuadroPieza::Pulsado, this, [this](int indice) {
             ::Coronacion::Elegir(indice);
             Dibujar();
         });

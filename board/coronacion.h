@@ -5,33 +5,17 @@
 
 class QPushButton;
 
+#include "board/cuadro_pieza.h"
+
 namespace qa {
 
 class PicBuffer;
-
-class CajaCoronacion : public QWidget {
-    Q_OBJECT
-public:
-    CajaCoronacion(int indice, QWidget* parent);
-    void PonerImagen(const QImage& img) { imagen_ = img, update(); }
-
-signals:
-    void Elegida(int indice);
-
-protected:
-    void paintEvent(QPaintEvent*) override;
-    void mousePressEvent(QMouseEvent*) override;
-
-private:
-    int indice_;
-    QImage imagen_;
-};
 
 class Coronacion : public QDialog {
     Q_OBJECT
 public:
     Coronacion(PicBuffer& tablero, QWidget* parent = nullptr);
-    CajaCoronacion* PiezaSelec(int indice) const { return cajas_[indice]; }
+    CuadroPieza* PiezaSelec(int indice) const { return cajas_[indice]; }
     QPushButton* Command1() const { return boton_; }
 
 protected:
@@ -42,7 +26,7 @@ private:
     void Aceptar();
 
     PicBuffer& tablero_;
-    CajaCoronacion* cajas_[5] = {};
+    CuadroPieza* cajas_[5] = {};
     QPushButton* boton_;
     bool activada_ = false;
 };

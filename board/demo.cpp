@@ -4,6 +4,7 @@
 //              [--moves "5254 5755 ..."] [--setup] [--grab FILE] [--wait MS]
 #include "board/entorno_tablero.h"
 #include "board/lista_jugadas.h"
+#include "board/partida_local.h"
 #include "board/set_tablero.h"
 #include "board/vista_tablero.h"
 
@@ -40,17 +41,6 @@ public:
     }
     void Sonar(int) override { QApplication::beep(); }
 };
-
-void NuevaPartida(qa::VistaTablero& vista) {
-    Jugadas::Vaciar();
-    PonerFichas();
-    VariablesCero();
-    MovimientoAnulado();
-    TipoPartida = "A";
-    Turno = 1;
-    vista.Picture()->QuitaMarco();
-    vista.Picture()->RedibujarTablero();
-}
 
 void Jugar(const QStringList& jugadas) {
     for (const QString& j : jugadas) {
@@ -102,7 +92,7 @@ int main(int argc, char** argv) {
                      &qa::SetTableroF::PaintImagenesSet);
 
     QToolBar* barra = ventana.addToolBar(QStringLiteral("Board"));
-    barra->addAction(QStringLiteral("New game"), [vista] { NuevaPartida(*vista); });
+    barra->addAction(QStringLiteral("New game"), [vista] { qa::PartidaLocal(*vista->Picture()); });
     barra->addAction(QStringLiteral("Take back"), [] {
         if (Turno != 0 && !Jugadas::List1.empty()) RetrocesoFuncion();
     });
@@ -120,7 +110,7 @@ int main(int argc, char** argv) {
     tamano->setRange(30, 100);
     barra->addWidget(tamano);
 
-    NuevaPartida(*vista);
+    qa::PartidaLocal(*vista->Picture());
     tamano->setValue(opciones.value("size").toInt());
     vista->PonerTamano(tamano->value(), false);
     vista->PonerLineas(opciones.isSet("lines"));

@@ -13,7 +13,6 @@
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLineEdit>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -29,35 +28,16 @@ constexpr int kLado = 40;
 constexpr int kPaleta[10] = {1, 2, 3, 4, 5, 7, 8, 9, 10, 11};
 } // namespace
 
-PiezaPaleta::PiezaPaleta(int codigo, QWidget* parent) : QWidget(parent), codigo_(codigo) {
-    setFixedSize(kLado + 4, kLado + 4);
-    setCursor(Qt::PointingHandCursor);
-}
-
-void PiezaPaleta::paintEvent(QPaintEvent*) {
-    QPainter p(this);
-    p.drawImage(2, 2, imagen_);
-    if (FichaSet == codigo_) {
-        p.setPen(QPen(QColor(30, 90, 220), 2));
-        p.drawRect(rect().adjusted(1, 1, -1, -1));
-    }
-}
-
-void PiezaPaleta::mousePressEvent(QMouseEvent* e) {
-    if (e->button() != Qt::LeftButton) return;
-    FichaSet = codigo_;
-    emit Elegida(codigo_);
-}
-
 SetTableroF::SetTableroF(PicBuffer& tablero, QWidget* parent) : QDialog(parent), tablero_(tablero) {
     setWindowTitle(TextoForma("SetTablero", "Titulo", "Set up position"));
     auto* rejilla = new QGridLayout(this);
     auto* paleta = new QGridLayout();
     for (int i = 0; i < 10; ++i) {
-        paleta_[i] = new PiezaPaleta(kPaleta[i], this);
+        paleta_[i] = new CuadroPieza(kPaleta[i], kLado, this);
         paleta->addWidget(paleta_[i], i / 5, i % 5);
-        connect(paleta_[i], &PiezaPaleta::Elegida, this, [this] {
-            for (PiezaPaleta* p : paleta_) p->update();
+        connect(paleta_[i], &CuadroPieza::Pulsado, this, [this](int codigo) {
+            FichaSet = codigo;
+            for (CuadroPieza* p : paleta_) p->PonerMarcado(p->Valor() == FichaSet);
         });
     }
     rejilla->addLayout(paleta, 0, 0, 1, 2);
@@ -115,11 +95,11 @@ SetTableroF::SetTableroF(PicBuffer& tablero, QWidget* parent) : QDialog(parent),
 void SetTableroF::PaintImagenesSet() {
     const JuegoFichas juego =
         tablero_.Skin() ? Escalar(*tablero_.Skin(), kLado) : FichasIncorporadas(kLado);
-    for (PiezaPaleta* p : paleta_) {
+    for (CuadroPieza* p : paleta_) {
         QImage img(kLado, kLado, QImage::Format_RGB32);
         img.fill(palette().color(QPalette::Button));
         QPainter pintor(&img);
-        PintarFicha(pintor, juego, p->Codigo(), 0, 0);
+        PintarFicha(pintor, juego, p->Valor(), 0, 0);
         pintor.end();
         p->PonerImagen(img);
     }

@@ -1,6 +1,8 @@
 #pragma once
 // SetTableroF: the position set-up. While it is open the board places and removes pieces
 // instead of moving them; accept starts a game from the position built.
+#include "board/cuadro_pieza.h"
+
 #include <QDialog>
 
 class QCheckBox;
@@ -12,26 +14,6 @@ namespace qa {
 
 class PicBuffer;
 
-// One of the ten pictures of the palette.
-class PiezaPaleta : public QWidget {
-    Q_OBJECT
-public:
-    PiezaPaleta(int codigo, QWidget* parent);
-    int Codigo() const { return codigo_; }
-    void PonerImagen(const QImage& img) { imagen_ = img, update(); }
-
-signals:
-    void Elegida(int codigo);
-
-protected:
-    void paintEvent(QPaintEvent*) override;
-    void mousePressEvent(QMouseEvent*) override;
-
-private:
-    int codigo_;
-    QImage imagen_;
-};
-
 class SetTableroF : public QDialog {
     Q_OBJECT
 public:
@@ -39,7 +21,7 @@ public:
 
     // Draws the palette from the pictures in force (after a skin change too).
     void PaintImagenesSet();
-    PiezaPaleta* Picture1(int i) const { return paleta_[i]; } // 0 to 9
+    CuadroPieza* Picture1(int i) const { return paleta_[i]; } // 0 to 9
 
     QCheckBox* Check[6] = {}; // 1..4 castling, 5 en passant
     QLineEdit* Text1;
@@ -60,7 +42,7 @@ private:
     void AlPaso();
 
     PicBuffer& tablero_;
-    PiezaPaleta* paleta_[10] = {};
+    CuadroPieza* paleta_[10] = {};
 };
 
 } // namespace qa

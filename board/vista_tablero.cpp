@@ -8,6 +8,7 @@
 
 #include <QCoreApplication>
 #include <QPainter>
+#include <algorithm>
 
 namespace qa {
 
@@ -46,7 +47,8 @@ QStringList VistaTablero::ActualizarSkins() const {
 }
 
 void VistaTablero::PonerTamano(int tamano, bool cambio) {
-    tamano_ = tamano;
+    // A setting out of all reason must not ask for a picture the size of a wall.
+    tamano_ = std::clamp(tamano, 8, 400);
     if (cambio) cambioTamano_ = true;
     pic_->MarcoActivo = false;
     timer1_.start();

@@ -1,5 +1,7 @@
 #include "board_fixture.h"
 
+#include "board/partida_local.h"
+
 #include "core/game_state.h"
 #include "core/move_list.h"
 
@@ -18,13 +20,7 @@ void TableroTest::SetUp() {
     InstalarEntorno(entorno.get());
     vista->PonerTamano(60, false);
     vista->Redimensionar();
-    Jugadas::Vaciar();
-    PonerFichas();
-    VariablesCero();
-    MovimientoAnulado();
-    TipoPartida = "A";
-    Turno = 1;
-    pic()->RedibujarTablero();
+    qa::PartidaLocal(*pic());
     vista->show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(vista.get()));
 }

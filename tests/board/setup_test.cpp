@@ -31,7 +31,7 @@ protected:
     }
     void Paleta(int codigo) {
         for (int i = 0; i < 10; ++i)
-            if (set->Picture1(i)->Codigo() == codigo)
+            if (set->Picture1(i)->Valor() == codigo)
                 QTest::mouseClick(set->Picture1(i), Qt::LeftButton);
         ASSERT_EQ(qa::FichaSet, codigo);
     }

@@ -1,0 +1,9 @@
+#pragma once
+// A new game for two people at this board: the start position, White to move, the move list
+// and the last-move frames empty.
+namespace qa {
+
+class PicBuffer;
+void PartidaLocal(PicBuffer& tablero);
+
+} // namespace qa
