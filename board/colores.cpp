@@ -71,6 +71,21 @@ void Colorear(QWidget* formulario, const QColor& c) {
 
 } // namespace
 
+bool LeerColor(const std::string& texto) {
+    const QStringList partes = QString::fromStdString(texto).split(QLatin1Char(':'));
+    if (partes.size() != 3) return false;
+    int v[3];
+    for (int i = 0; i < 3; ++i) {
+        bool ok = false;
+        v[i] = partes[i].trimmed().toInt(&ok);
+        if (!ok || v[i] < 0 || v[i] > 255) return false;
+    }
+    ColorR = v[0];
+    ColorG = v[1];
+    ColorB = v[2];
+    return true;
+}
+
 QColor ColorInterior() {
     const int d = Fondo == 1 ? 200 : 0;
     return Rgb(ColorR + d, ColorG + d, ColorB + d);

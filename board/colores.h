@@ -2,6 +2,7 @@
 // The colour scheme of the forms: a bevelled frame in a base colour, or the flat system look.
 #include <QColor>
 #include <QImage>
+#include <string>
 
 class QWidget;
 
@@ -9,6 +10,9 @@ namespace qa {
 
 inline int ColorR = 30, ColorG = 40, ColorB = 55;
 inline int Fondo = 1; // 1 coloured with a bevel, 2 the system colours
+
+// The key Color, "r:g:b". False, and the colour unchanged, when it does not read so.
+bool LeerColor(const std::string& texto);
 
 // A form joins one of the groups its background is painted with (1 board and clock, 2 move
 // list, options and new game, 3 chat, connection, promotion, address, 4 ranking, 7 engines,
