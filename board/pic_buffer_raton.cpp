@@ -253,4 +253,10 @@ void PicBuffer::mouseReleaseEvent(QMouseEvent* e) {
     DragDrop(p.x(), p.y());
 }
 
+void PicBuffer::leaveEvent(QEvent* e) {
+    QWidget::leaveEvent(e);
+    // A drag whose release went elsewhere must not hang on to the piece.
+    if (arrastrando_) DragOver(-1, -1, true);
+}
+
 } // namespace qa

@@ -54,6 +54,27 @@ void VistaTablero::PonerTamano(int tamano, bool cambio) {
     timer1_.start();
 }
 
+QString VistaTablero::TamanoEnter(const QString& texto) {
+    const int v = std::clamp(texto.toInt(), 30, 100);
+    if (v != pic_->AltoCasilla) cambioTamano_ = true;
+    PonerTamano(v, false);
+    return QString::number(v);
+}
+
+QString VistaTablero::TamanoMas(const QString& texto) {
+    int v = texto.toInt();
+    if (v > 99) return QStringLiteral("100");
+    PonerTamano(std::max(v, 29) + 1);
+    return QString::number(tamano_);
+}
+
+QString VistaTablero::TamanoMenos(const QString& texto) {
+    int v = texto.toInt();
+    if (v < 31) return QStringLiteral("30");
+    PonerTamano(std::min(v, 101) - 1);
+    return QString::number(tamano_);
+}
+
 void VistaTablero::Redimensionar() {
     timer1_.stop();
     if (cambioTamano_) {

@@ -35,6 +35,11 @@ public slots:
     // Tamaño: starts the resize timer. `cambio` forgets nothing but says the size was changed
     // by hand (CambioTamano).
     void PonerTamano(int tamano, bool cambio = true);
+    // The size box of the options and its two spin buttons: each takes the box's text and
+    // returns what the box is to show, and starts the resize when the size changes.
+    QString TamanoEnter(const QString& texto);
+    QString TamanoMas(const QString& texto);
+    QString TamanoMenos(const QString& texto);
     // mnuInvertirTablero.
     void PonerInvertido(bool invertido);
     // mnuPointClick: a selection being held is dropped.

@@ -95,3 +95,18 @@ TEST_F(TableroTest, GridLinesComeAndGo) {
     vista->PonerLineas(false);
     EXPECT_EQ(pic()->Imagen().pixel(x, y), sinLinea);
 }
+
+TEST_F(TableroTest, SizeBoxAndItsSpinButtonsKeepToThirtyToAHundred) {
+    EXPECT_EQ(vista->TamanoEnter("7"), "30");
+    EXPECT_EQ(vista->TamanoEnter("250"), "100");
+    EXPECT_EQ(vista->TamanoEnter("99"), "99");
+    EXPECT_EQ(vista->TamanoMas("99"), "100");
+    EXPECT_EQ(vista->TamanoMas("100"), "100");
+    EXPECT_EQ(vista->TamanoMas("12"), "30");
+    EXPECT_EQ(vista->TamanoMenos("31"), "30");
+    EXPECT_EQ(vista->TamanoMenos("30"), "30");
+    EXPECT_EQ(vista->TamanoMenos("140"), "100");
+    EXPECT_EQ(vista->TamanoMenos("45"), "44");
+    QTest::qWait(60);
+    EXPECT_EQ(pic()->AnchoCasilla, 44);
+}
