@@ -120,7 +120,6 @@ int main(int argc, char** argv) {
     QObject::connect(tamano, &QSpinBox::valueChanged, vista,
                      [vista](int n) { vista->PonerTamano(n); });
     vista->Redimensionar();
-    if (opciones.isSet("flip")) girar->trigger();
     if (opciones.isSet("clicks")) clics->trigger();
     if (opciones.isSet("fen")) {
         PosicionFen = opciones.value("fen").toStdString();
@@ -145,7 +144,11 @@ int main(int argc, char** argv) {
         });
 
     const QStringList jugadas = opciones.value("moves").split(' ', Qt::SkipEmptyParts);
-    QTimer::singleShot(100, [jugadas] { Jugar(jugadas); });
+    // The moves are given as the console gives them, in board squares: played before the turn.
+    QTimer::singleShot(100, [jugadas, girar, turnar = opciones.isSet("flip")] {
+        Jugar(jugadas);
+        if (turnar) girar->trigger();
+    });
     if (opciones.isSet("setup"))
         QTimer::singleShot(150, [set, &ventana] {
             set->show();
