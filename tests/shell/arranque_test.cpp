@@ -227,6 +227,31 @@ TEST(Programa, DamagedRankingStartsAgainAt1200) {
     Forms().mdi->close();
 }
 
+TEST(Programa, ChangingTheLanguageInTheOptions) {
+    Carpeta c;
+    Cajas cajas;
+    std::string zulu =
+        std::regex_replace(c.Leer("English.lng"), std::regex("\nMenu1=[^\r\n]*"), "\nMenu1=Zulu");
+    c.Escribir("Zulu.lng", zulu);
+    ASSERT_TRUE(Main({"quintarena"}));
+    Opciones* op = Forms().opciones;
+    ASSERT_EQ(op->Idiomas(), (std::vector<std::string>{"English", "Español", "Zulu"}));
+    EXPECT_EQ(op->TextoIdioma(), "Español");
+
+    op->FijarTextoIdioma("Zulu");
+    CambiarIdioma();
+    EXPECT_EQ(Entrada("mnuArchivos")->text(), "Zulu");
+    EXPECT_EQ(FicheroIdioma, DirectorioPrograma + "zulu.lng");
+    op->OpcionesAceptar();
+    EXPECT_EQ(LeerIni(c.Ruta("Default.ini"), "Configuracion", "Idioma"), "Zulu");
+
+    // Entry 0 is not looked at: the current file stays.
+    op->FijarTextoIdioma("English");
+    CambiarIdioma();
+    EXPECT_EQ(FicheroIdioma, DirectorioPrograma + "zulu.lng");
+    Forms().mdi->close();
+}
+
 TEST(LineaDeOrdenes, QuotesCaseAndShortNames) {
     EXPECT_EQ(NombreDeLineaDeOrdenes(""), "");
     EXPECT_EQ(NombreDeLineaDeOrdenes("\"/Home/Ana/Mi Partida.QTR\""), "/home/ana/mi partida.qtr");
