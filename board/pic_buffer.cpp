@@ -35,7 +35,6 @@ void PicBuffer::Resice() {
     buffer_ = QImage(8 * w, 8 * h, QImage::Format_RGB32);
     buffer_.fill(Qt::white);
     fondo_ = buffer_;
-    emit Redimensionado();
 }
 
 void PicBuffer::PaintTablero() {

@@ -74,9 +74,6 @@ public:
     // Screen square to board square and back: the same turn both ways.
     std::pair<int, int> Convertir(int col, int fila) const;
 
-signals:
-    void Redimensionado();
-
 protected:
     void paintEvent(QPaintEvent*) override;
     void mousePressEvent(QMouseEvent* e) override;
