@@ -192,3 +192,29 @@ TEST_F(TableroTest, TwoPeoplePlayToMateAndTakeBack) {
     EXPECT_FALSE(pic()->MarcosMostrados());
     EXPECT_EQ(lista->toPlainText().indexOf("Dh4"), -1);
 }
+
+TEST_F(TableroTest, JunkCodesAreNeitherDrawnNorPickedUp) {
+    Tablero[4][4] = 13;
+    Tablero[5][5] = -7;
+    pic()->RedibujarTablero();
+    EXPECT_EQ(EnPantalla(4, 4), Esperada(4, 4, 0));
+    Arrastrar(4, 4, 4, 5);
+    vista->PonerPointClick(true);
+    Clic(5, 5);
+    EXPECT_FALSE(pic()->MarcadorMostrado());
+    EXPECT_TRUE(Origen.empty());
+    EXPECT_EQ(Turno, 1);
+}
+
+TEST_F(TableroTest, ReversedPromotionClosedWithoutAChoiceStaysSafe) {
+    LimpiarTablero();
+    Tablero[1][7] = PeonB;
+    Tablero[5][1] = ReyB;
+    Tablero[8][6] = ReyN;
+    pic()->RedibujarTablero();
+    vista->PonerInvertido(true);
+    AlAbrirseModal([](QWidget* w) { w->close(); });
+    Arrastrar(1, 7, 1, 8);
+    EXPECT_FALSE(pic()->Arrastrando());
+    EXPECT_TRUE(Origen.empty());
+}
