@@ -130,12 +130,8 @@ void PicBuffer::DragOver(int x, int y, bool fuera) {
                     static_cast<int>(std::lround(y - medioAlto)));
     }
     update();
-    bool legal = false;
-    if (!pointClick && !Origen.empty()) {
-        const auto [c, f] = Convertir(ColRaton, FilaRaton);
-        legal = Probar(c, f);
-    }
     const auto [c, f] = Convertir(ColRaton, FilaRaton);
+    const bool legal = !pointClick && !Origen.empty() && Probar(c, f);
     PonerCursor(legal || Digitos(c, f) == Origen.substr(0, 2) ? ArrastreMano : ArrastreStop);
 }
 
@@ -144,7 +140,6 @@ void PicBuffer::DragDrop(int x, int y) {
     arrastrando_ = false;
     PonerCursor(Normal);
     if (Turno == 0 || pointClick) return;
-    ColRaton = FilaRaton = 0;
     ColRaton = Columna(x);
     FilaRaton = Fila(y);
     if (ColRaton == 0 || FilaRaton == 0) {
