@@ -22,6 +22,9 @@ struct Enlaces {
     std::function<void()> CargarImagenes, NotacionCambiada, PointClickCambiado, PintarFondos;
     std::function<int()> AlturaFichas; // height of the piece buffers, for the size setting
     std::function<void()> CambiarTamano, RepintarPaleta;
+    // The options dialog: a skin picked in its list, and its settings accepted.
+    std::function<void(const std::string&)> SkinElegida;
+    std::function<void()> OpcionesAplicadas;
 
     // Commands of the menu by the name of their entry ("mnuGuardarPartida", ...).
     std::map<std::string, std::function<void()>> Comandos;

@@ -1,23 +1,20 @@
 #pragma once
-// The move list panel: one list per notation, of which one is shown (List(1) to List(5)).
+// The move list panel: shows one of the move texts, chosen by the notation menu.
 #include "shell/formulario_hijo.h"
 
-class QListWidget;
-class QStackedWidget;
-
 namespace qa {
+
+class ListaJugadas;
 
 class Jugadas : public FormularioHijo {
     Q_OBJECT
 public:
     Jugadas();
     void AplicarIdioma() override;
-    QListWidget* List(int i) const { return listas_[i]; }
-    void MostrarLista(int i);
+    ListaJugadas* Lista() const { return lista_; }
 
 private:
-    QStackedWidget* pila_;
-    QListWidget* listas_[6] = {};
+    ListaJugadas* lista_;
 };
 
 } // namespace qa

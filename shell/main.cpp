@@ -2,6 +2,7 @@
 #include "shell/arranque.h"
 #include "shell/formularios.h"
 #include "shell/mdi.h"
+#include "shell/tablero_programa.h"
 
 #include <QApplication>
 #include <string>
@@ -17,6 +18,7 @@ int main(int argc, char** argv) {
     qa::AlTerminar([] {
         if (qa::Forms().mdi) qa::Forms().mdi->Descargar();
     });
+    qa::InstalarTablero();
     int codigo = 0;
     if (qa::Main(argumentos)) codigo = app.exec();
     qa::LiberarFormularios();

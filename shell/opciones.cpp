@@ -67,6 +67,12 @@ Opciones::Opciones(QWidget* padre)
     });
     connect(cancelar_, &QPushButton::clicked, this, &QDialog::hide);
     connect(combo1_, &QComboBox::activated, this, [this] { Combo1Click(); });
+    // Only a pick by the user counts: the program's own refills of the list do not.
+    connect(skinCombo_, &QComboBox::activated, this, [this] {
+        if (!skinEnCambio_ && isVisible()) {
+            if (auto& f = Enlace().SkinElegida) f(TextoSkin());
+        }
+    });
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     resize(320, 300);
 }
@@ -182,6 +188,7 @@ void Opciones::OpcionesAceptar() {
     auto& en = Enlace();
     if (en.AlturaFichas && v != en.AlturaFichas()) Ejecutar(en.CambiarTamano);
     if (Cierto(en.SetTableroVisible)) Ejecutar(en.RepintarPaleta);
+    Ejecutar(en.OpcionesAplicadas);
 }
 
 } // namespace qa

@@ -1,0 +1,208 @@
+#include "shell/tablero_programa.h"
+
+#include "board/entorno_tablero.h"
+#include "board/lista_jugadas.h"
+#include "board/partida_local.h"
+#include "board/set_tablero.h"
+#include "board/vista_tablero.h"
+#include "core/game_state.h"
+#include "core/move_list.h"
+#include "core/takeback.h"
+#include "platform/ini_file.h"
+#include "platform/programa.h"
+#include "platform/ruta.h"
+#include "platform/texto.h"
+#include "shell/enlaces.h"
+#include "shell/formularios.h"
+#include "shell/jugadas.h"
+#include "shell/mdi.h"
+#include "shell/opciones.h"
+#include "shell/quintarena.h"
+#include "shell/servicios.h"
+
+namespace qa {
+
+namespace {
+
+using namespace Variables;
+
+// What the rules ask of the program that is not the board's: boxes, sounds, the other forms.
+class EntornoPrograma : public Entorno {
+public:
+    bool ListaPgnVisible() override { return Cierto(Enlace().ListaPgnVisible); }
+    bool CpuVisible() override { return Cierto(Enlace().CpuVisible); }
+    void MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones,
+                        int extra) override {
+        qa::MostrarMensaje(titulo, texto, icono, botones, extra);
+    }
+    void Sonar(int n) override { qa::Sonar(n); }
+};
+
+struct Tablero {
+    VistaTablero* vista = nullptr;
+    SetTableroF* set = nullptr;
+    EntornoPrograma resto;
+    std::unique_ptr<EntornoTablero> entorno;
+};
+
+Tablero& T() {
+    static Tablero t;
+    return t;
+}
+
+int NotacionMarcada() {
+    static const char* const kEntradas[] = {"mnuAlgebraicoEsp", "mnuAlgebraicoIng", "mnuCordenadas",
+                                            "mnuAlgebraicoUsuario0"};
+    for (int i = 0; i < 4; ++i)
+        if (Marcada(kEntradas[i])) return i + 1;
+    return 1;
+}
+
+int TamanoOpciones() {
+    Opciones* op = Forms().opciones;
+    const double v = op ? Val(op->Tamano()) : 60;
+    return v < 1 ? 30 : static_cast<int>(v);
+}
+
+// The three board options of the dialog, as its boxes stand.
+void AplicarOpciones() {
+    Opciones* op = Forms().opciones;
+    VistaTablero* v = T().vista;
+    if (!op || !v) return;
+    v->PonerMarcos(op->Check(1));
+    v->PonerCoordenadas(op->Check(2));
+    v->PonerLineas(op->Check(3));
+}
+
+void CrearTablero() {
+    auto& f = Forms();
+    if (!f.quintarena || T().vista) return;
+    auto* vista = new VistaTablero;
+    T().vista = vista;
+    vista->PonerNombreBase(QString::fromUtf8(kNombreBase));
+    vista->PonerCarpetaApariencias(
+        QString::fromStdString(RutaReal(DirectorioPrograma + "apariencias")));
+    f.quintarena->PonerTablero(vista);
+
+    T().entorno = std::make_unique<EntornoTablero>(*vista, &T().resto);
+    if (f.jugadas) T().entorno->PonerListaJugadas(f.jugadas->Lista());
+    InstalarEntorno(T().entorno.get());
+
+    // The forms go with the main window; the core must not reach a board that is gone.
+    QObject::connect(vista, &QObject::destroyed, [] {
+        InstalarEntorno(nullptr);
+        T().vista = nullptr;
+        T().entorno.reset();
+    });
+    T().set = new SetTableroF(*vista->Picture(), f.mdi);
+    QObject::connect(T().set, &QObject::destroyed, [] { T().set = nullptr; });
+    QObject::connect(vista, &VistaTablero::ImagenesCambiadas, T().set,
+                     &SetTableroF::PaintImagenesSet);
+    QObject::connect(vista, &VistaTablero::TamanoCambiado, f.quintarena, [](QSize) {
+        if (Forms().quintarena) Forms().quintarena->adjustSize();
+    });
+    QObject::connect(vista, &VistaTablero::AparienciaCambiada, vista, [](const QString& nombre) {
+        EscribirIni(FicheroOpciones, "Configuracion", "Apariencia", nombre.toStdString());
+        if (Forms().opciones) Forms().opciones->CargarApariencia(nombre.toStdString());
+    });
+    if (ListaJugadas* lista = f.jugadas ? f.jugadas->Lista() : nullptr) {
+        static const char* const kEntradas[] = {"", "mnuAlgebraicoEsp", "mnuAlgebraicoIng",
+                                                "mnuCordenadas", "mnuAlgebraicoUsuario0"};
+        QObject::connect(lista, &ListaJugadas::NotacionElegida, lista, [](int check) {
+            if (check >= 1 && check <= 4 && Forms().mdi) {
+                Marcar(kEntradas[check], true);
+                Forms().mdi->Comando(kEntradas[check]);
+            }
+        });
+        QObject::connect(lista, &ListaJugadas::GuardarComo, lista, [] {
+            if (Forms().mdi) Forms().mdi->Comando("mnuGuardarPartida");
+        });
+        lista->PonerNotacion(NotacionMarcada());
+    }
+
+    PonerFichas(); // shown from the start, though nobody moves until a game begins
+    Opciones* op = f.opciones;
+    vista->PonerApariencia(op ? QString::fromStdString(op->TextoSkin()) : vista->NombreBase());
+    AplicarOpciones();
+    vista->PonerInvertido(Marcada("mnuInvertirTablero"));
+    vista->PonerPointClick(Marcada("mnuPointClick"));
+    vista->PonerTamano(TamanoOpciones(), false);
+    vista->Redimensionar();
+    f.quintarena->adjustSize();
+}
+
+// The guards every game command shares, for the game at one machine.
+bool PartidaOcupada() {
+    if (Cierto(Enlace().ListaPgnVisible) || EditandoTablero) return true;
+    if (Cargando) {
+        MostrarMensaje("Quintarena", "80", kIconoInformacion);
+        return true;
+    }
+    return false;
+}
+
+} // namespace
+
+void InstalarTablero() {
+    auto& en = Enlace();
+    en.CargarImagenes = CrearTablero;
+    en.PointClickCambiado = [] {
+        if (T().vista) T().vista->PonerPointClick(Marcada("mnuPointClick"));
+        MovimientoAnulado();
+    };
+    en.NotacionCambiada = [] {
+        if (Forms().jugadas) Forms().jugadas->Lista()->PonerNotacion(NotacionMarcada());
+    };
+    en.AlturaFichas = [] { return T().vista ? T().vista->Tamano() : 0; };
+    en.CambiarTamano = [] {
+        if (T().vista) T().vista->PonerTamano(TamanoOpciones());
+    };
+    en.SetTableroVisible = [] { return T().set && T().set->isVisible(); };
+    en.RepintarPaleta = [] {
+        if (T().set) T().set->PaintImagenesSet();
+    };
+    en.ModoEdicion = [] { return EditandoTablero; };
+    en.Cargando = [] { return Cargando; };
+    en.OpcionesAplicadas = AplicarOpciones;
+    en.SkinElegida = [](const std::string& nombre) {
+        VistaTablero* v = T().vista;
+        Opciones* op = Forms().opciones;
+        if (!v || !op) return;
+        const bool base = nombre == kNombreBase;
+        if (v->PonerApariencia(QString::fromStdString(nombre)) && !base) {
+            // A skin drawn for another square size: offer its size.
+            const QSize s = v->TamanoSkin();
+            if (s.isValid() && s.height() != TamanoOpciones() &&
+                MostrarMensaje("Quintarena", "64", kIconoPregunta, kBotonesSiNo) == 6)
+                op->FijarTamano(std::to_string(s.width()));
+        }
+        v->PonerTamano(TamanoOpciones(), !base);
+        if (T().set) T().set->PaintImagenesSet();
+    };
+
+    en.Comandos["mnuInvertirTablero"] = [] {
+        if (T().vista) T().vista->PonerInvertido(Marcada("mnuInvertirTablero"));
+    };
+    en.Comandos["mnuRetroceder"] = [] {
+        if (::Jugadas::List1.empty() || EditandoTablero || Cargando) return;
+        if (!Conectado && Turno != 0) RetrocesoFuncion();
+    };
+    en.Comandos["mnuSetTablero"] = [] {
+        if (Cierto(Enlace().Conectado)) {
+            MostrarMensaje("Quintarena", "83", kIconoInformacion);
+        } else if (Cierto(Enlace().CpuVisible)) {
+            MostrarMensaje("Quintarena", "84", kIconoInformacion);
+        } else if (T().set) {
+            T().set->show();
+            T().set->raise();
+        }
+    };
+    // At one machine a new game is the engine form's with no engine on either side; until
+    // that form exists the command gives the same clean board with White to move.
+    en.Comandos["mnuNuevaPartida"] = [] {
+        if (PartidaOcupada() || Cierto(Enlace().Conectado) || !T().vista) return;
+        PartidaLocal(*T().vista->Picture());
+    };
+}
+
+} // namespace qa
