@@ -59,6 +59,10 @@ const Caso kCasos[] = {
     {"Piece square off the board", "4k3/8/8/8/8/8/8/4KB2", "Bz9", 1, "", true},
 };
 
+void PrintTo(const Caso& c, std::ostream* os) {
+    *os << c.jugada;
+}
+
 class LeerJugada : public prueba::ConFicheros, public ::testing::WithParamInterface<Caso> {};
 
 TEST_P(LeerJugada, FindsSquaresAndRecords) {

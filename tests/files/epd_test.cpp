@@ -78,3 +78,19 @@ TEST_F(Epd, ClosingWithoutOpeningGivesACleanBoard) {
 }
 
 } // namespace
+
+namespace {
+
+// kokopu's table of positions: the lines with Chess960 castling letters are
+// no positions to this reader, the other 14 list and open.
+TEST_F(Epd, RealPositionTable) {
+    const std::string datos = prueba::DatosReales();
+    if (datos.empty()) GTEST_SKIP() << "QA_TEST_DATA not set";
+    ASSERT_TRUE(FEpd::LeerEPD(datos + "/kokopu-fens.epd"));
+    ASSERT_EQ(FEpd::Eventos.size(), 14u);
+    FEpd::CasillasEpd c{};
+    for (int32_t i = 1; i < 14; ++i) EXPECT_TRUE(FEpd::EventosClick(i, c));
+    EXPECT_EQ(Mensajes(), "");
+}
+
+} // namespace
