@@ -42,6 +42,13 @@ public:
     void ReiniciarRelojes() override { resto().ReiniciarRelojes(); }
     int PreguntarColorRed() override { return resto().PreguntarColorRed(); }
     void EnviarPosicionRed() override { resto().EnviarPosicionRed(); }
+    std::string Mensaje(int n) override { return resto().Mensaje(n); }
+    std::string TextoReloj(int lado) override { return resto().TextoReloj(lado); }
+    void PonerTextoReloj(int lado, const std::string& texto) override {
+        resto().PonerTextoReloj(lado, texto);
+    }
+    void AvisoCargando() override { resto().AvisoCargando(); }
+    void MostrarVentanas() override { resto().MostrarVentanas(); }
 
 private:
     Entorno& resto() { return resto_ ? *resto_ : ninguno_; }

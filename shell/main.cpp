@@ -1,5 +1,6 @@
 #include "platform/senales.h"
 #include "shell/arranque.h"
+#include "shell/ficheros_programa.h"
 #include "shell/formularios.h"
 #include "shell/mdi.h"
 #include "shell/tablero_programa.h"
@@ -19,6 +20,7 @@ int main(int argc, char** argv) {
         if (qa::Forms().mdi) qa::Forms().mdi->Descargar();
     });
     qa::InstalarTablero();
+    qa::InstalarFicheros();
     int codigo = 0;
     if (qa::Main(argumentos)) codigo = app.exec();
     qa::LiberarFormularios();

@@ -12,7 +12,7 @@ Reloj::Reloj() : FormularioHijo("mnuReloj") {
     auto* cuerpo = new QWidget;
     auto* rejilla = new QGridLayout(cuerpo);
     for (int i = 1; i <= 4; ++i) {
-        etiquetas_[i] = new QLabel(i > 2 ? "0:00" : "");
+        etiquetas_[i] = new QLabel(i > 2 ? "00:00" : ""); // as the counters print at zero
         etiquetas_[i]->setObjectName(QString("Label%1").arg(i));
         rejilla->addWidget(etiquetas_[i], (i - 1) % 2, (i - 1) / 2);
     }

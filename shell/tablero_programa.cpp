@@ -1,5 +1,6 @@
 #include "shell/tablero_programa.h"
 
+#include "board/colores.h"
 #include "board/entorno_tablero.h"
 #include "board/lista_jugadas.h"
 #include "board/partida_local.h"
@@ -12,13 +13,21 @@
 #include "platform/programa.h"
 #include "platform/ruta.h"
 #include "platform/texto.h"
+#include "shell/chat.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
+#include "shell/idioma.h"
 #include "shell/jugadas.h"
 #include "shell/mdi.h"
 #include "shell/opciones.h"
 #include "shell/quintarena.h"
+#include "shell/ranking.h"
+#include "shell/reloj.h"
 #include "shell/servicios.h"
+#include "shell/ventanas.h"
+
+#include <QLabel>
+#include <QMdiSubWindow>
 
 namespace qa {
 
@@ -36,6 +45,23 @@ public:
         qa::MostrarMensaje(titulo, texto, icono, botones, extra);
     }
     void Sonar(int n) override { qa::Sonar(n); }
+    std::string Mensaje(int n) override {
+        return n >= 1 && n < static_cast<int>(Mensajes.size()) ? Mensajes[n] : std::string();
+    }
+    // The captions of the clock panel: White's time is label 3, Black's label 4.
+    std::string TextoReloj(int lado) override {
+        QLabel* l = Forms().reloj ? Forms().reloj->Label(lado == 2 ? 4 : 3) : nullptr;
+        return l ? l->text().toStdString() : std::string();
+    }
+    void PonerTextoReloj(int lado, const std::string& texto) override {
+        if (QLabel* l = Forms().reloj ? Forms().reloj->Label(lado == 2 ? 4 : 3) : nullptr)
+            l->setText(QString::fromStdString(texto));
+    }
+    void ReiniciarRelojes() override {
+        PonerTextoReloj(1, "00:00");
+        PonerTextoReloj(2, "00:00");
+    }
+    void MostrarVentanas() override { qa::MostrarVentanas(); }
 };
 
 struct Tablero {
@@ -129,6 +155,20 @@ void CrearTablero() {
     vista->PonerTamano(TamanoOpciones(), false);
     vista->Redimensionar();
     f.quintarena->adjustSize();
+
+    // The colour scheme's groups: board and clock, lists and options, chat, ranking, set-up.
+    // Inside the frames of the main window only, so that their title bars stay readable.
+    auto dentro = [](QMdiSubWindow* w) { return w ? w->widget() : nullptr; };
+    const std::pair<QWidget*, int> grupos[] = {{dentro(f.quintarena), 1},
+                                               {dentro(f.reloj), 1},
+                                               {dentro(f.jugadas), 2},
+                                               {f.opciones, 2},
+                                               {dentro(f.chat), 3},
+                                               {dentro(f.ranking), 4},
+                                               {T().set, 9}};
+    for (const auto& [forma, grupo] : grupos)
+        if (forma) RegistrarFormulario(forma, grupo);
+    Ejecutar(Enlace().PintarFondos);
 }
 
 // The guards every game command shares, for the game at one machine.

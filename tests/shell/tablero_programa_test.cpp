@@ -7,6 +7,7 @@
 #include "core/game_state.h"
 #include "core/move_list.h"
 #include "shell/arranque.h"
+#include "shell/ficheros_programa.h"
 #include "shell/formularios.h"
 #include "shell/idioma.h"
 #include "shell/jugadas.h"
@@ -16,7 +17,9 @@
 
 #include <QAction>
 #include <QTest>
+#include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 using namespace qa;
@@ -33,6 +36,7 @@ protected:
     void SetUp() override {
         cajas.respuestas = {kRespuestaNo, kRespuestaNo};
         InstalarTablero();
+        InstalarFicheros();
         ASSERT_TRUE(Main({"quintarena"}));
         vista = qobject_cast<VistaTablero*>(Forms().quintarena->PicBuffer());
         ASSERT_NE(vista, nullptr);
@@ -112,6 +116,34 @@ TEST_F(ProgramaConTablero, PointAndClickFromTheMenu) {
     QTest::mouseClick(p, Qt::LeftButton, {}, Centro("f3"));
     EXPECT_EQ(Tablero[6][3], CaballoB);
     Entrada("mnuPointClick")->trigger();
+}
+
+TEST_F(ProgramaConTablero, SavedGameFileReplaysOnTheBoardByItsTimers) {
+    Entrada("mnuNuevaPartida")->trigger();
+    for (const char* j : {"e2e4", "e7e5", "g1f3", "b8c6", "f1c4"}) Arrastrar(j);
+    int32_t antes[9][9];
+    std::copy(&Tablero[0][0], &Tablero[0][0] + 81, &antes[0][0]);
+    const std::string ruta = carpeta.Ruta("partida.qtr").string();
+    FijarPresentadorDialogos([&](int, const std::string&) {
+        RespuestaDialogo r;
+        r.fichero = ruta;
+        r.carpeta = carpeta.Ruta().string();
+        return r;
+    });
+    Entrada("mnuGuardarPartida")->trigger();
+    ASSERT_TRUE(std::filesystem::exists(ruta));
+    EXPECT_TRUE(cajas.Hay(Mensajes[34])) << "the game is saved";
+    EXPECT_EQ(carpeta.Leer("partida.qtr"),
+              "0000\r\n0000\r\nA\r\n5254\r\n5755\r\n7163\r\n2836\r\n6134\r\n");
+
+    Entrada("mnuNuevaPartida")->trigger();
+    Entrada("mnuAbrirPartida")->trigger();
+    EXPECT_TRUE(Cargando) << "the replay runs on its timers";
+    ASSERT_TRUE(prueba::Esperar([] { return !Cargando; }, 10000));
+    EXPECT_TRUE(std::equal(&Tablero[0][0], &Tablero[0][0] + 81, &antes[0][0]));
+    EXPECT_NE(Lista().find("3. Ac4"), std::string::npos) << Lista();
+    Captura("programa-qtr");
+    FijarPresentadorDialogos(nullptr);
 }
 
 } // namespace
