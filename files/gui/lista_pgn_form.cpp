@@ -1,0 +1,266 @@
+#include "files/gui/lista_pgn_form.h"
+
+#include "core/game_state.h"
+#include "files/game_file.h"
+#include "files/gui/modelo_lista.h"
+#include "files/gui/tablero_mini.h"
+#include "files/pgn_browser.h"
+#include "files/pgn_scanner.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QListWidget>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QVBoxLayout>
+
+using namespace Variables;
+
+namespace qa {
+
+QVariant ModeloLista::data(const QModelIndex& i, int rol) const {
+    if (rol != Qt::DisplayRole || !i.isValid() || i.row() >= rowCount()) return {};
+    const std::string& t = filas_[static_cast<size_t>(i.row())];
+    const QString s = QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size()));
+    // Old collections are Latin-1: a text that is no UTF-8 is read as that.
+    return s.contains(QChar::ReplacementCharacter)
+               ? QString::fromLatin1(t.data(), static_cast<qsizetype>(t.size()))
+               : s;
+}
+
+namespace {
+QString Texto(const std::string& s) {
+    return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
+}
+} // namespace
+
+ListaPgnF::ListaPgnF(QWidget* padre) : QWidget(padre, Qt::Window) {
+    buscar_ = new QComboBox;
+    for (const char* e : {"Event", "Site", "Date", "Round", "White", "Black", "Result"})
+        buscar_->addItem(e);
+    eventos_ = new QListView;
+    eventos_->setObjectName("Eventos");
+    eventos_->setUniformItemSizes(true);
+    modelo_ = new ModeloLista(ListaPgn::Eventos, this);
+    eventos_->setModel(modelo_);
+    label2_ = new QLabel;
+    cuenta_ = new QLabel;
+    mini_ = new TableroMini;
+
+    auto* lista = new QWidget;
+    auto* l1 = new QVBoxLayout(lista);
+    l1->addWidget(buscar_);
+    l1->addWidget(eventos_, 1);
+    l1->addWidget(label2_);
+    l1->addWidget(cuenta_);
+
+    auto* etiquetas = new QWidget;
+    auto* rejilla = new QGridLayout(etiquetas);
+    const char* nombres[7] = {"Event", "Site", "Date", "Round", "White", "Black", "Result"};
+    for (int i = 0; i < 6; ++i) {
+        text1_[i] = new QLineEdit;
+        text1_[i]->setObjectName(QString("Text1_%1").arg(i));
+        rejilla->addWidget(new QLabel(nombres[i]), i, 0);
+        rejilla->addWidget(text1_[i], i, 1);
+    }
+    combo1_ = new QComboBox;
+    combo1_->addItems({"*", "1-0", "0-1", "1/2-1/2"}); // not editable: typing is swallowed
+    rejilla->addWidget(new QLabel(nombres[6]), 6, 0);
+    rejilla->addWidget(combo1_, 6, 1);
+    rejilla->addWidget(mini_, 7, 0, 1, 2);
+
+    pestanas_ = new QTabWidget;
+    pestanas_->addTab(lista, "1");
+    pestanas_->addTab(etiquetas, "2");
+
+    auto* botones = new QHBoxLayout;
+    const char* rotulos[6] = {"", "|<", "<", ">", ">|", "Auto"};
+    for (int i = 1; i <= 5; ++i) {
+        command1_[i] = new QPushButton(rotulos[i]);
+        botones->addWidget(command1_[i]);
+        connect(command1_[i], &QPushButton::clicked, this, [this, i] { Boton(i); });
+    }
+    combo2_ = new QComboBox;
+    combo2_->setEditable(true);
+    combo2_->addItems({"1000", "500", "2000", "3000"});
+    botones->addWidget(combo2_);
+    guardar_ = new QPushButton("OK");
+    cancelar_ = new QPushButton("Cancel");
+    botones->addWidget(guardar_);
+    botones->addWidget(cancelar_);
+
+    movimientos_ = new QListWidget;
+    movimientos_->setObjectName("PgnMovimientos");
+    movimientos_->installEventFilter(this);
+    movimientos_->setFont(QFont("Monospace"));
+
+    auto* capa = new QHBoxLayout(this);
+    auto* izquierda = new QVBoxLayout;
+    izquierda->addWidget(pestanas_, 1);
+    izquierda->addLayout(botones);
+    capa->addLayout(izquierda, 2);
+    capa->addWidget(movimientos_, 1);
+
+    timer_.setSingleShot(true);
+    connect(&timer_, &QTimer::timeout, this, &ListaPgnF::Cargar);
+    connect(&autoPlay_, &QTimer::timeout, this, [this] {
+        AvanzarPgn();
+        Mostrar();
+        emit TableroCambiado();
+    });
+    connect(eventos_, &QListView::clicked, this, [this](const QModelIndex& i) { Elegir(i.row()); });
+    connect(eventos_, &QListView::doubleClicked, this, [this] { pestanas_->setCurrentIndex(1); });
+    connect(buscar_, &QComboBox::activated, this, [this](int i) {
+        BuscarClick(i);
+        Mostrar();
+        emit TableroCambiado();
+    });
+    connect(movimientos_, &QListWidget::itemClicked, this, [this](QListWidgetItem* it) {
+        IrAFilaPgn(movimientos_->row(it));
+        Mostrar();
+        emit TableroCambiado();
+    });
+    connect(combo2_, &QComboBox::activated, this, [this] {
+        if (AutoPlay) autoPlay_.setInterval(combo2_->currentText().toInt());
+    });
+    connect(guardar_, &QPushButton::clicked, this, [this] {
+        EtiquetasPgn e;
+        for (int i = 0; i < 6; ++i) e.valor[i] = text1_[i]->text().toStdString();
+        e.valor[6] = combo1_->currentText().toStdString();
+        emit Guardado(ConfirmarEtiquetasPgn(e) == Guardado::Hecho);
+        hide();
+    });
+    connect(cancelar_, &QPushButton::clicked, this, [this] {
+        CancelarEtiquetasPgn();
+        emit Guardado(false);
+        hide();
+    });
+    ModoDialogo(false);
+}
+
+void ListaPgnF::ModoDialogo(bool dialogo) {
+    for (int i = 1; i <= 5; ++i) command1_[i]->setVisible(!dialogo);
+    combo2_->setVisible(!dialogo);
+    guardar_->setVisible(dialogo);
+    cancelar_->setVisible(dialogo);
+    movimientos_->setVisible(!dialogo);
+    pestanas_->setTabEnabled(0, !dialogo);
+    pestanas_->setCurrentIndex(dialogo ? 1 : 0);
+}
+
+void ListaPgnF::Abrir(const QString& ruta) {
+    const std::string r = ruta.toStdString();
+    AbrirPgn(r);
+    setWindowTitle(tituloBase_ + Texto(ListaPgn::Titulo));
+    filasMostradas_ = static_cast<size_t>(-1);
+    ModoDialogo(false);
+    Mostrar();
+    show();
+    timer_.start(300);
+}
+
+void ListaPgnF::AbrirComoDialogo() {
+    const EtiquetasPgn e = EtiquetasIniciales();
+    for (int i = 0; i < 6; ++i) text1_[i]->setText(Texto(e.valor[i]));
+    combo1_->setCurrentIndex(0);
+    ModoDialogo(true);
+    show();
+}
+
+void ListaPgnF::Elegir(int fila) {
+    const bool autoplay = AutoPlay;
+    if (!ElegirPartidaPgn(fila)) return;
+    if (autoplay) autoPlay_.stop();
+    Mostrar();
+    timer_.start(10);
+}
+
+void ListaPgnF::Cargar() {
+    CargarPartidaPgn();
+    Mostrar();
+    emit TableroCambiado();
+}
+
+void ListaPgnF::Boton(int elemento) {
+    movimientos_->setFocus();
+    PulsarBotonPgn(elemento);
+    if (elemento == 5) {
+        if (AutoPlay)
+            autoPlay_.start(std::max(50, combo2_->currentText().toInt()));
+        else
+            autoPlay_.stop();
+    }
+    Mostrar();
+    emit TableroCambiado();
+}
+
+// The logic's state onto the controls.
+void ListaPgnF::Mostrar() {
+    if (filasMostradas_ != ListaPgn::Eventos.size()) {
+        modelo_->Refrescar();
+        filasMostradas_ = ListaPgn::Eventos.size();
+    }
+    if (ListaPgn::EventosIndice >= 0)
+        eventos_->setCurrentIndex(modelo_->index(ListaPgn::EventosIndice));
+    label2_->setText(Texto(ListaPgn::Label2));
+    cuenta_->setText(Texto(ListaPgn::EtiquetaCuenta));
+    if (!GuardandoPgn) {
+        for (int i = 0; i < 6; ++i) text1_[i]->setText(Texto(ListaPgn::Text1[i]));
+        combo1_->setItemText(0, ListaPgn::Combo1.empty() ? "*" : Texto(ListaPgn::Combo1));
+    }
+    if (movimientos_->count() != static_cast<int>(ListaPgn::PgnMovimientos.size()) ||
+        (movimientos_->count() > 0 &&
+         movimientos_->item(0)->text() != Texto(ListaPgn::PgnMovimientos[0]))) {
+        movimientos_->clear();
+        for (const auto& f : ListaPgn::PgnMovimientos) movimientos_->addItem(Texto(f));
+    }
+    if (ListaPgn::PgnMovimientosIndice >= 0 &&
+        ListaPgn::PgnMovimientosIndice < movimientos_->count())
+        movimientos_->setCurrentRow(ListaPgn::PgnMovimientosIndice);
+    for (int i = 1; i <= 4; ++i) command1_[i]->setEnabled(BotonesNavegacion);
+    command1_[5]->setText(AutoPlay ? "Stop" : "Auto");
+    if (!AutoPlay) autoPlay_.stop();
+    mini_->CopiarTablero();
+}
+
+bool ListaPgnF::eventFilter(QObject* o, QEvent* e) {
+    if (o == movimientos_ && e->type() == QEvent::KeyPress) {
+        const int tecla = static_cast<QKeyEvent*>(e)->key();
+        const int codigo = tecla == Qt::Key_Left    ? 37
+                           : tecla == Qt::Key_Up    ? 38
+                           : tecla == Qt::Key_Right ? 39
+                           : tecla == Qt::Key_Down  ? 40
+                                                    : 0;
+        if (codigo && TeclaPgn(codigo)) {
+            Mostrar();
+            emit TableroCambiado();
+            return true;
+        }
+    }
+    return QWidget::eventFilter(o, e);
+}
+
+void ListaPgnF::closeEvent(QCloseEvent* e) {
+    autoPlay_.stop();
+    timer_.stop();
+    AutoPlay = false;
+    BotonesNavegacion = true;
+    if (GuardandoPgn) {
+        CancelarEtiquetasPgn();
+    } else {
+        VariablesCero();
+        PonerFichas();
+        Turno = 0;
+        ListaPgn::Descargar();
+        emit Cerrado();
+    }
+    e->accept();
+}
+
+} // namespace qa
