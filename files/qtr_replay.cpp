@@ -8,6 +8,7 @@
 #include "core/move_filter.h"
 #include "core/move_list.h"
 #include "files/line_reader.h"
+#include "files/pgn_scanner.h"
 #include "files/pgn_text.h"
 
 #include <string_view>
@@ -98,7 +99,10 @@ bool AbrirQtr(const std::string& ruta) {
         entorno().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
         return false;
     }
-    if (entorno().ListaPgnVisible()) entorno().CerrarListaPgn();
+    if (entorno().ListaPgnVisible()) {
+        FicheroPgn.clear();
+        entorno().CerrarListaPgn();
+    }
     Jugadas::Vaciar();
     VariablesCero();
     MovimientoAnulado();
