@@ -155,28 +155,15 @@ void Enroque(bool blanco) {
 // Rights are saved before a rook's flag changes. Both pairs take the white
 // flags for a black rook: that is how the records have always been written.
 void BanderasTorre() {
-    if (FichaMovida == TorreB && FilaOrigen == 1) {
-        if (ColOrigen == 1) {
-            DerechosBlancas[1] = TorreA1Movida;
-            DerechosBlancas[2] = TorreH1Movida;
-            TorreA1Movida = true;
-        } else if (ColOrigen == 8) {
-            DerechosBlancas[1] = TorreA1Movida;
-            DerechosBlancas[2] = TorreH1Movida;
-            TorreH1Movida = true;
-        }
-    }
-    if (FichaMovida == TorreN && FilaOrigen == 8) {
-        if (ColOrigen == 1) {
-            DerechosNegras[1] = TorreA1Movida;
-            DerechosNegras[2] = TorreH1Movida;
-            TorreA8Movida = true;
-        } else if (ColOrigen == 8) {
-            DerechosNegras[1] = TorreA1Movida;
-            DerechosNegras[2] = TorreH1Movida;
-            TorreH8Movida = true;
-        }
-    }
+    const bool blanca = FichaMovida == TorreB && FilaOrigen == 1;
+    const bool negra = FichaMovida == TorreN && FilaOrigen == 8;
+    if ((!blanca && !negra) || (ColOrigen != 1 && ColOrigen != 8)) return;
+    bool* pareja = blanca ? DerechosBlancas : DerechosNegras;
+    pareja[1] = TorreA1Movida;
+    pareja[2] = TorreH1Movida;
+    bool& movida = blanca ? (ColOrigen == 1 ? TorreA1Movida : TorreH1Movida)
+                          : (ColOrigen == 1 ? TorreA8Movida : TorreH8Movida);
+    movida = true;
 }
 
 } // namespace
