@@ -204,7 +204,13 @@ void AbrirPgn(const std::string& ruta) {
 
 void LeerCabecerasPgn(const std::string& ruta) {
     PgnConFen = false;
-    if (!ListaLeida || indice.ruta != ruta)
+    if (ListaLeida && indice.ruta != ruta) { // another file: its list starts afresh
+        ListaLeida = false;
+        TotalPartidas = 0;
+        ListaPgn::Eventos.clear();
+        ListaPgn::EventosIndice = -1;
+    }
+    if (!ListaLeida)
         PrimeraPasada(ruta);
     else
         CabecerasElegida(ruta);
