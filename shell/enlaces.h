@@ -25,8 +25,6 @@ struct Enlaces {
     // The options dialog: a skin picked in its list, and its settings accepted.
     std::function<void(const std::string&)> SkinElegida;
     std::function<void()> OpcionesAplicadas;
-    // A PGN save: the tag dialog of the PGN browser takes over from here.
-    std::function<void()> PedirEtiquetasPgn;
 
     // Commands of the menu by the name of their entry ("mnuGuardarPartida", ...).
     std::map<std::string, std::function<void()>> Comandos;

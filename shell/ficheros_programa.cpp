@@ -2,9 +2,13 @@
 
 #include "board/color_rgb.h"
 #include "board/colores.h"
+#include "board/vista_tablero.h"
 #include "core/environment.h"
 #include "core/game_state.h"
 #include "files/game_file.h"
+#include "files/gui/epd_form.h"
+#include "files/gui/lista_pgn_form.h"
+#include "files/gui/tablero_mini.h"
 #include "files/qtr_replay.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
@@ -14,8 +18,12 @@
 #include "shell/formularios.h"
 #include "shell/idioma.h"
 #include "shell/mdi.h"
+#include "shell/quintarena.h"
 #include "shell/servicios.h"
+#include "shell/ventanas.h"
 
+#include <QMdiArea>
+#include <QPointer>
 #include <QTimer>
 
 namespace qa {
@@ -67,6 +75,87 @@ std::string& CarpetaGuardar() {
     return carpeta;
 }
 
+// The small boards of the browsers take the pieces the main board shows.
+void PonerPiezas(TableroMini* mini) {
+    auto* vista =
+        Forms().quintarena ? qobject_cast<VistaTablero*>(Forms().quintarena->PicBuffer()) : nullptr;
+    if (mini && vista) mini->PonerJuego(vista->Picture()->R());
+}
+
+// A browser opens where it was last, in twips from the corner of the main window's work area.
+void Situar(QWidget* forma, const Lugar& lugar) {
+    Mdi* mdi = Forms().mdi;
+    if (!mdi || !mdi->Area()) return;
+    const QPoint origen = mdi->Area()->mapToGlobal(QPoint(0, 0));
+    forma->move(origen +
+                QPoint(static_cast<int>(lugar.left / 15), static_cast<int>(lugar.top / 15)));
+}
+
+// The browsers are windows of their own; they go with the main window.
+template <typename Forma> Forma* Navegador(QPointer<Forma>& forma) {
+    if (!forma) {
+        forma = new Forma(nullptr);
+        if (Forms().mdi)
+            QObject::connect(Forms().mdi, &QObject::destroyed, forma, &QObject::deleteLater);
+    }
+    return forma;
+}
+
+QPointer<ListaPgnF>& FormaPgn() {
+    static QPointer<ListaPgnF> forma;
+    return forma;
+}
+
+ListaPgnF* FormularioPgn() {
+    const bool nueva = !FormaPgn();
+    ListaPgnF* f = Navegador(FormaPgn());
+    if (nueva) {
+        f->PonerTituloBase(QString::fromStdString(Texto("Pgn", "Titulo")));
+        QObject::connect(f, &ListaPgnF::TableroCambiado, [] { entorno().RedibujarTablero(); });
+        QObject::connect(f, &ListaPgnF::Cerrado, [] {
+            entorno().RedibujarTablero();
+            // The panels it hid come back once it is really gone.
+            QTimer::singleShot(0, [] { MostrarVentanas(); });
+        });
+    }
+    PonerPiezas(f->Miniatura());
+    return f;
+}
+
+void CargarPgn(const std::string& ruta) {
+    ListaPgnF* f = FormularioPgn();
+    OcultarVentanas(f->isVisible());
+    f->Abrir(QString::fromStdString(RutaReal(ruta)));
+    Situar(f, Controles().ListaPgn);
+    f->show();
+    f->raise();
+}
+
+QPointer<EpdF>& FormaEpd() {
+    static QPointer<EpdF> forma;
+    return forma;
+}
+
+void AbrirFicheroEpd(const std::string& ruta) {
+    const bool nueva = !FormaEpd();
+    EpdF* f = Navegador(FormaEpd());
+    if (nueva) {
+        QObject::connect(f, &EpdF::PosicionAbierta, [] { entorno().RedibujarTablero(); });
+        QObject::connect(f, &EpdF::Cerrado, [] { entorno().RedibujarTablero(); });
+    }
+    // A position on show is replaced only when the player agrees.
+    if (f->isVisible()) {
+        if (MostrarMensaje("Quintarena", "57", kIconoPregunta, kBotonesSiNo) != kRespuestaSi)
+            return;
+        f->close();
+    }
+    PonerPiezas(f->Tablero());
+    f->Abrir(QString::fromStdString(RutaReal(ruta)));
+    Situar(f, Controles().Epd);
+    f->show();
+    f->raise();
+}
+
 void GuardarPartidaComando() {
     if (Cargando || Cierto(Enlace().CpuVisible)) {
         MostrarMensaje("Quintarena", "80", kIconoInformacion);
@@ -84,10 +173,11 @@ void GuardarPartidaComando() {
     if (r.fichero.empty()) return;
     CarpetaGuardar() = r.carpeta;
     if (GuardarPartida(r.fichero) == Guardado::Etiquetas) {
-        if (Enlace().PedirEtiquetasPgn)
-            Enlace().PedirEtiquetasPgn();
-        else
-            CancelarEtiquetasPgn();
+        ListaPgnF* f = FormularioPgn();
+        f->AbrirComoDialogo();
+        Situar(f, Controles().ListaPgn);
+        f->show();
+        f->raise();
     }
 }
 
@@ -118,6 +208,9 @@ void MostrarColorRgb() {
 void InstalarFicheros() {
     auto& en = Enlace();
     en.AbrirQtr = AbrirPartidaQtr;
+    en.CargarPgn = CargarPgn;
+    en.AbrirEpd = AbrirFicheroEpd;
+    en.ListaPgnVisible = [] { return FormaPgn() && FormaPgn()->isVisible(); };
     en.Comandos["mnuGuardarPartida"] = GuardarPartidaComando;
     en.Comandos["mnuGuardarComo"] = GuardarPartidaComando;
     en.Comandos["mnuRgb"] = MostrarColorRgb;

@@ -7,6 +7,7 @@
 #include "core/game_state.h"
 #include "core/move_list.h"
 #include "shell/arranque.h"
+#include "shell/enlaces.h"
 #include "shell/ficheros_programa.h"
 #include "shell/formularios.h"
 #include "shell/idioma.h"
@@ -16,6 +17,7 @@
 #include "shell/tablero_programa.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QTest>
 #include <algorithm>
 #include <cstdlib>
@@ -144,6 +146,37 @@ TEST_F(ProgramaConTablero, SavedGameFileReplaysOnTheBoardByItsTimers) {
     EXPECT_NE(Lista().find("3. Ac4"), std::string::npos) << Lista();
     Captura("programa-qtr");
     FijarPresentadorDialogos(nullptr);
+}
+
+TEST_F(ProgramaConTablero, PgnCollectionOpensInTheBrowserAndPlaysOnTheBoard) {
+    carpeta.Escribir("dos.pgn", "[Event \"Primera\"]\n[Site \"?\"]\n[Date \"?\"]\n[Round \"1\"]\n"
+                                "[White \"A\"]\n[Black \"B\"]\n[Result \"0-1\"]\n\n"
+                                "1. f3 e5 2. g4 Qh4# 0-1\n\n"
+                                "[Event \"Segunda\"]\n[Site \"?\"]\n[Date \"?\"]\n[Round \"2\"]\n"
+                                "[White \"C\"]\n[Black \"D\"]\n[Result \"1-0\"]\n\n"
+                                "1. e4 e5 2. Bc4 Nc6 3. Qh5 Nf6 4. Qxf7# 1-0\n");
+    FijarPresentadorDialogos([&](int, const std::string&) {
+        RespuestaDialogo r;
+        r.fichero = carpeta.Ruta("dos.pgn").string();
+        r.carpeta = carpeta.Ruta().string();
+        return r;
+    });
+    Entrada("mnuAbrirPartida")->trigger();
+    FijarPresentadorDialogos(nullptr);
+    ASSERT_TRUE(Cierto(Enlace().ListaPgnVisible));
+    EXPECT_FALSE(Forms().jugadas->isVisible()) << "the browser holds the panels";
+    // The first game is read and played to its end.
+    ASSERT_TRUE(prueba::Esperar([] { return Tablero[8][4] == DamaN; }));
+    EXPECT_EQ(Tablero[6][3], PeonB);
+    Captura("programa-pgn");
+
+    Entrada("mnuNuevaPartida")->trigger();
+    EXPECT_EQ(Turno, 0) << "no new game while the browser is up";
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->inherits("qa::ListaPgnF")) w->close();
+    EXPECT_FALSE(Cierto(Enlace().ListaPgnVisible));
+    EXPECT_EQ(Tablero[4][8], DamaN) << "the start position is back";
+    EXPECT_TRUE(prueba::Esperar([] { return Forms().jugadas->isVisible(); }));
 }
 
 } // namespace
