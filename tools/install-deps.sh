@@ -4,7 +4,9 @@ set -euo pipefail
 pkgs=(cmake ninja-build g++ clang libclang-rt-14-dev clang-format
       qt6-base-dev qt6-svg-dev qt6-multimedia-dev libgl-dev
       libgtest-dev libbenchmark-dev xvfb xauth imagemagick fonts-dejavu-core
-      sox librsvg2-bin pgn-extract npm)
+      sox librsvg2-bin pgn-extract)
+# npm only where no Node.js is present: Debian's package conflicts with other installs of it.
+command -v npm >/dev/null 2>&1 || pkgs+=(npm)
 missing=()
 for p in "${pkgs[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
