@@ -64,6 +64,20 @@ void ReglaPeon(bool blanco) {
     }
 }
 
+// The mover's own king must not be left attacked; then the verdict on the
+// opponent. False when the move is refused.
+bool ReyPropioYVeredicto() {
+    Ataque = false;
+    ProbarReyPropio();
+    if (Ataque) {
+        MovimientoValido = false;
+        Ataque = false;
+        return false;
+    }
+    VeredictoRival();
+    return true;
+}
+
 // Promotion of a pawn that reached its last row.
 void Coronar(bool blanco) {
     if (SoloProbar) return;
@@ -77,14 +91,7 @@ void Coronar(bool blanco) {
     } else {
         entorno().MostrarCoronacion();
     }
-    Ataque = false;
-    ProbarReyPropio();
-    if (Ataque) {
-        MovimientoValido = false;
-        Ataque = false;
-        return;
-    }
-    VeredictoRival();
+    ReyPropioYVeredicto();
 }
 
 void Enroque(bool blanco) {
@@ -142,14 +149,7 @@ void Enroque(bool blanco) {
             !torreA)
             enrocar(1, 4, 3, 2);
     }
-    Ataque = false;
-    ProbarReyPropio();
-    if (Ataque) {
-        MovimientoValido = false;
-        Ataque = false;
-        return;
-    }
-    VeredictoRival();
+    ReyPropioYVeredicto();
 }
 
 // Rights are saved before a rook's flag changes. Both pairs take the white
@@ -350,14 +350,7 @@ void FiltroMovimiento() {
     ReglasPieza();
     if (!MovimientoValido) return;
 
-    Ataque = false;
-    ProbarReyPropio();
-    if (Ataque) {
-        MovimientoValido = false;
-        Ataque = false;
-        return;
-    }
-    VeredictoRival();
+    if (!ReyPropioYVeredicto()) return;
 
     if (FichaMovida == PeonB && FilaDestino == 8) Coronar(true);
     if (FichaMovida == PeonN && FilaDestino == 1) Coronar(false);

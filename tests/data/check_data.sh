@@ -118,9 +118,9 @@ for f in "${lngs[@]}"; do
     [ -n "$(value "$f" "$s" "$k")" ] || fail "$b: [$s] $k is missing or empty"
   done
   # Texts whose "$" marks are filled in by the program.
-  for spec in 10:2 28:1 54:1 63:1 84:2 87:1 91:1 92:1 94:1 100:1 109:1; do
-    n=$(dollars "$f" "${spec%%:*}")
-    [ "$n" -eq "${spec#*:}" ] || fail "$b: message ${spec%%:*} has $n '\$' marks, wants ${spec#*:}"
+  for regla in 10:2 28:1 54:1 63:1 84:2 87:1 91:1 92:1 94:1 100:1 109:1; do
+    n=$(dollars "$f" "${regla%%:*}")
+    [ "$n" -eq "${regla#*:}" ] || fail "$b: message ${regla%%:*} has $n '\$' marks, wants ${regla#*:}"
   done
   [[ "$(value "$f" Mensajes 84)" =~ ^[^\$]+\ \$\ [^\$]+\ \$\ [^\$]+$ ]] || fail "$b: message 84 needs ' \$ ' twice"
   [[ "$(value "$f" Mensajes 91)" == '$'* ]] || fail "$b: message 91 must begin with the name's '\$'"
