@@ -6,6 +6,8 @@
 #include <map>
 #include <string>
 
+class QWidget;
+
 namespace qa {
 
 struct Enlaces {
@@ -25,6 +27,8 @@ struct Enlaces {
     // The options dialog: a skin picked in its list, and its settings accepted.
     std::function<void(const std::string&)> SkinElegida;
     std::function<void()> OpcionesAplicadas;
+    // The board picture itself, without its labels: what "save as picture" saves.
+    std::function<QWidget*()> ImagenTablero;
 
     // Commands of the menu by the name of their entry ("mnuGuardarPartida", ...).
     std::map<std::string, std::function<void()>> Comandos;

@@ -148,7 +148,9 @@ void GuardarImagen() {
         AvisoNoEscribible(r.fichero);
         return;
     }
-    QWidget* picBuffer = Forms().quintarena ? Forms().quintarena->PicBuffer() : nullptr;
+    QWidget* picBuffer = Enlace().ImagenTablero ? Enlace().ImagenTablero()
+                         : Forms().quintarena   ? Forms().quintarena->PicBuffer()
+                                                : nullptr;
     if (!picBuffer || !picBuffer->grab().save(Q(RutaReal(r.fichero)), "BMP")) {
         AvisoNoEscribible(r.fichero);
         return;

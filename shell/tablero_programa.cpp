@@ -201,6 +201,7 @@ void InstalarTablero() {
     en.RepintarPaleta = [] {
         if (T().set) T().set->PaintImagenesSet();
     };
+    en.ImagenTablero = []() -> QWidget* { return T().vista ? T().vista->Picture() : nullptr; };
     en.ModoEdicion = [] { return EditandoTablero; };
     en.Cargando = [] { return Cargando; };
     en.OpcionesAplicadas = AplicarOpciones;

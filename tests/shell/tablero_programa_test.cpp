@@ -18,6 +18,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QImage>
 #include <QTest>
 #include <algorithm>
 #include <cstdlib>
@@ -90,6 +91,20 @@ TEST_F(ProgramaConTablero, FoolsMateFromTheMenuToTheMessage) {
     EXPECT_NE(Lista().find("Dh4++"), std::string::npos) << Lista();
     EXPECT_NE(Lista().find("2. g4"), std::string::npos) << Lista();
     Captura("programa-mate");
+
+    // The board as a picture: the squares alone, eight by eight.
+    const std::string bmp = carpeta.Ruta("tablero.bmp").string();
+    FijarPresentadorDialogos([&](int, const std::string&) {
+        RespuestaDialogo r;
+        r.fichero = bmp;
+        return r;
+    });
+    Entrada("mnuGuararImagen")->trigger();
+    FijarPresentadorDialogos(nullptr);
+    const QImage imagen(QString::fromStdString(bmp));
+    EXPECT_EQ(imagen.size(),
+              QSize(8 * vista->Picture()->AnchoCasilla, 8 * vista->Picture()->AltoCasilla));
+    EXPECT_TRUE(cajas.Hay(Mensajes[37]));
 
     Marcar("mnuCordenadas", true);
     Forms().mdi->Comando("mnuCordenadas");
