@@ -36,9 +36,7 @@ bool Probar(const std::string& o, const std::string& d) {
 
 void NuevaPartida() {
     RestablecerTodo();
-    VariablesCero();
-    PonerFichas();
-    Turno = 1;
+    NuevaPartidaLocal();
 }
 
 // A long legal game, chosen at random among the moves the filter allows.

@@ -84,9 +84,7 @@ const char* kComentarios[] = {"{The main line.}",
 std::vector<std::string> PartidaAlAzar(uint32_t semilla) {
     std::mt19937 azar(semilla);
     RestablecerTodo();
-    VariablesCero();
-    PonerFichas();
-    Turno = 1;
+    NuevaPartidaLocal();
     const int largo = 40 + static_cast<int>(azar() % 140);
     for (int ply = 0; ply < largo && Turno != 0; ++ply) {
         // Shapes first, then the filter on them in random order until one plays.

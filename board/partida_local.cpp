@@ -3,18 +3,15 @@
 #include "board/pic_buffer.h"
 
 #include "core/game_state.h"
-#include "core/move_list.h"
+#include "core/local_move.h"
 
 namespace qa {
 
 void PartidaLocal(PicBuffer& tablero) {
     using namespace Variables;
-    Jugadas::Vaciar();
-    PonerFichas();
-    VariablesCero();
+    NuevaPartidaLocal();
     MovimientoAnulado();
     TipoPartida = "A";
-    Turno = 1;
     tablero.QuitaMarco();
     tablero.RedibujarTablero();
 }

@@ -4,6 +4,7 @@
 #include "core/game_end.h"
 #include "core/game_state.h"
 #include "core/move_filter.h"
+#include "core/move_list.h"
 
 namespace Variables {
 
@@ -72,6 +73,13 @@ void FinComun() {
     if (Mate) FinPorMate();
     if (Ahogado) FinPorAhogado();
     MovimientoAnulado();
+}
+
+void NuevaPartidaLocal() {
+    VariablesCero();
+    Jugadas::Vaciar();
+    PonerFichas();
+    Turno = 1;
 }
 
 Respuesta SoltarFicha(const std::string& origen, const std::string& destino, int32_t pieza) {

@@ -24,6 +24,10 @@ struct Respuesta {
     enum Tipo { Ignorada, Rehusada, Legal } tipo = Ignorada;
     bool jaque = false, mate = false, ahogado = false;
 };
+// A new game for two people at one machine: the reset, the move texts
+// emptied, the initial position, White to move.
+void NuevaPartidaLocal();
+
 // A piece dropped from one square on another in a local game: pick-up rules,
 // the filter, the repair and the common finish, as the board does it.
 Respuesta SoltarFicha(const std::string& origen, const std::string& destino, int32_t pieza);

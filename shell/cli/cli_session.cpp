@@ -175,10 +175,7 @@ void SesionCli::Ejecutar(const std::string& linea) {
     if (orden.empty() || orden[0] == '#') return;
 
     if (orden == "new" && arg.empty()) {
-        VariablesCero();
-        Jugadas::Vaciar();
-        PonerFichas();
-        Turno = 1;
+        NuevaPartidaLocal();
         salida_ << "ok\n";
     } else if (orden == "move") {
         Mover(arg);

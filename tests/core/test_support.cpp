@@ -28,10 +28,7 @@ void Partida::TearDown() {
 }
 
 void Partida::Nueva() {
-    VariablesCero();
-    Jugadas::Vaciar();
-    PonerFichas();
-    Turno = 1;
+    NuevaPartidaLocal();
 }
 
 void Partida::Colocar(const std::string& diagrama, int turno) {
