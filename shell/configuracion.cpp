@@ -31,9 +31,6 @@ void LeerEntrada(const char* clave, const char* entrada) {
     if (v >= 0) Marcar(entrada, v == 1);
 }
 
-const char* const kNotaciones[] = {"mnuAlgebraicoEsp", "mnuAlgebraicoIng", "mnuCordenadas",
-                                   "mnuAlgebraicoUsuario0"};
-
 void EscribirLugarPendiente(const char* seccion, const char* top, const char* left,
                             const Lugar& l) {
     Escribir(seccion, top, TextoNumero(l.top));
@@ -95,6 +92,12 @@ void LeerColor(const std::string& valor, long& r, long& g, long& b) {
     r = campos[0];
     g = campos[1];
     b = campos[2];
+}
+
+int NotacionMarcada() {
+    for (int i = 0; i < 4; ++i)
+        if (Marcada(kNotaciones[i])) return i + 1;
+    return 1;
 }
 
 void LeerOpciones() {

@@ -23,6 +23,12 @@ struct ControlesPendientes {
 };
 ControlesPendientes& Controles();
 
+// The four notation entries, in the order of the setting Check (1 to 4).
+inline constexpr const char* kNotaciones[] = {"mnuAlgebraicoEsp", "mnuAlgebraicoIng",
+                                              "mnuCordenadas", "mnuAlgebraicoUsuario0"};
+// The notation checked in the menu, 1 to 4 (1 when none is).
+int NotacionMarcada();
+
 bool ExisteFichero(const std::string& fichero);
 bool LiberarFichero(const std::string& fichero);
 

@@ -153,9 +153,7 @@ void Mdi::CambiarPanel(const std::string& entrada, const char* clave) {
 }
 
 void Mdi::CambiarNotacion(int n) {
-    static const char* const kEntradas[] = {"mnuAlgebraicoEsp", "mnuAlgebraicoIng", "mnuCordenadas",
-                                            "mnuAlgebraicoUsuario0"};
-    for (int i = 0; i < 4; ++i) Marcar(kEntradas[i], i == n - 1);
+    for (int i = 0; i < 4; ++i) Marcar(kNotaciones[i], i == n - 1);
     EscribirIni(FicheroOpciones, "Configuracion", "Check", std::to_string(n));
     Ejecutar(Enlace().NotacionCambiada);
 }

@@ -14,6 +14,7 @@
 #include "platform/ruta.h"
 #include "platform/texto.h"
 #include "shell/chat.h"
+#include "shell/configuracion.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
 #include "shell/idioma.h"
@@ -76,14 +77,6 @@ Tablero& T() {
     return t;
 }
 
-int NotacionMarcada() {
-    static const char* const kEntradas[] = {"mnuAlgebraicoEsp", "mnuAlgebraicoIng", "mnuCordenadas",
-                                            "mnuAlgebraicoUsuario0"};
-    for (int i = 0; i < 4; ++i)
-        if (Marcada(kEntradas[i])) return i + 1;
-    return 1;
-}
-
 int TamanoOpciones() {
     Opciones* op = Forms().opciones;
     const double v = op ? Val(op->Tamano()) : 60;
@@ -132,12 +125,10 @@ void CrearTablero() {
         if (Forms().opciones) Forms().opciones->CargarApariencia(nombre.toStdString());
     });
     if (ListaJugadas* lista = f.jugadas ? f.jugadas->Lista() : nullptr) {
-        static const char* const kEntradas[] = {"", "mnuAlgebraicoEsp", "mnuAlgebraicoIng",
-                                                "mnuCordenadas", "mnuAlgebraicoUsuario0"};
         QObject::connect(lista, &ListaJugadas::NotacionElegida, lista, [](int check) {
             if (check >= 1 && check <= 4 && Forms().mdi) {
-                Marcar(kEntradas[check], true);
-                Forms().mdi->Comando(kEntradas[check]);
+                Marcar(kNotaciones[check - 1], true);
+                Forms().mdi->Comando(kNotaciones[check - 1]);
             }
         });
         QObject::connect(lista, &ListaJugadas::GuardarComo, lista, [] {
