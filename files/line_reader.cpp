@@ -11,7 +11,9 @@
 
 namespace {
 constexpr size_t kBloque = 1 << 20;
-}
+// What is read past a range's end to finish its last line.
+constexpr size_t kCola = 4096;
+} // namespace
 
 LectorLineas::LectorLineas(const std::string& ruta, uint64_t desde, uint64_t hasta)
     : hasta_(hasta), posicion_(desde) {
@@ -24,10 +26,13 @@ LectorLineas::LectorLineas(const std::string& ruta, uint64_t desde, uint64_t has
         return;
     }
     base_ = desde;
-    buf_.resize(kBloque);
+    const uint64_t tamano = static_cast<uint64_t>(std::max<off_t>(st.st_size, 0));
+    const uint64_t tramo = std::min(hasta, tamano) > desde ? std::min(hasta, tamano) - desde : 0;
+    capacidad_ = static_cast<size_t>(std::clamp<uint64_t>(tramo + 1, kCola, kBloque));
+    buf_ = std::make_unique_for_overwrite<char[]>(capacidad_);
     if (desde == 0) {
         Rellenar();
-        if (fin_ >= 3 && std::memcmp(buf_.data(), "\xEF\xBB\xBF", 3) == 0) ini_ = 3;
+        if (fin_ >= 3 && std::memcmp(buf_.get(), "\xEF\xBB\xBF", 3) == 0) ini_ = 3;
     }
 }
 
@@ -38,15 +43,26 @@ LectorLineas::~LectorLineas() {
 bool LectorLineas::Rellenar() {
     if (eof_) return false;
     if (ini_ > 0) {
-        std::memmove(buf_.data(), buf_.data() + ini_, fin_ - ini_);
+        std::memmove(buf_.get(), buf_.get() + ini_, fin_ - ini_);
         base_ += ini_;
         fin_ -= ini_;
         ini_ = 0;
     }
-    if (fin_ == buf_.size()) buf_.resize(buf_.size() * 2); // a line longer than the buffer
+    if (fin_ == capacidad_) { // a line longer than the buffer
+        auto mayor = std::make_unique_for_overwrite<char[]>(capacidad_ * 2);
+        std::memcpy(mayor.get(), buf_.get(), fin_);
+        buf_ = std::move(mayor);
+        capacidad_ *= 2;
+    }
+    // Up to the range's end; past it, only small steps to finish the last line.
+    const uint64_t desde = base_ + fin_;
+    size_t pedir = capacidad_ - fin_;
+    if (hasta_ != kFin) {
+        const uint64_t falta = hasta_ > desde ? hasta_ - desde : kCola;
+        pedir = static_cast<size_t>(std::min<uint64_t>(pedir, std::max<uint64_t>(falta, 1)));
+    }
     for (;;) {
-        ssize_t n =
-            ::pread(fd_, buf_.data() + fin_, buf_.size() - fin_, static_cast<off_t>(base_ + fin_));
+        ssize_t n = ::pread(fd_, buf_.get() + fin_, pedir, static_cast<off_t>(desde));
         if (n < 0 && errno == EINTR) continue;
         if (n <= 0) {
             eof_ = true;
@@ -61,7 +77,7 @@ bool LectorLineas::Siguiente(std::string_view& linea) {
     if (fd_ < 0) return false;
     for (;;) {
         if (base_ + ini_ >= hasta_) return false;
-        const char* p = buf_.data() + ini_;
+        const char* p = buf_.get() + ini_;
         const void* nl = std::memchr(p, '\n', fin_ - ini_);
         size_t largo;
         size_t salto;
@@ -71,7 +87,7 @@ bool LectorLineas::Siguiente(std::string_view& linea) {
         } else if (!Rellenar()) {
             if (ini_ >= fin_) return false;
             largo = salto = fin_ - ini_; // the last line has no line end
-            p = buf_.data() + ini_;
+            p = buf_.get() + ini_;
         } else {
             continue;
         }

@@ -1,12 +1,14 @@
 #pragma once
 // Reads a text file line by line through a buffer of its own, with the byte
 // offset of each line, so a scan can come back to a line without starting
-// over. The buffer grows only with the longest line, never with the file.
+// over. The buffer grows only with the longest line, never with the file,
+// and a range is read no further than its end (and the rest of its last
+// line), so one game of a large collection costs its own size.
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
 class LectorLineas {
 public:
@@ -29,7 +31,8 @@ private:
     bool Rellenar();
 
     int fd_ = -1;
-    std::vector<char> buf_;
+    std::unique_ptr<char[]> buf_; // not zero-filled: only what was read is looked at
+    size_t capacidad_ = 0;
     size_t ini_ = 0, fin_ = 0;
     uint64_t base_ = 0; // file offset of buf_[0]
     uint64_t hasta_;

@@ -134,6 +134,36 @@ TEST_F(Escaner, SelectingReadsOnlyThatGame) {
     EXPECT_EQ(ListaPgn::Label2, "Partida: 3");
 }
 
+// Bytes this process has taken from files so far.
+uint64_t BytesLeidos() {
+    std::ifstream io("/proc/self/io");
+    std::string clave;
+    uint64_t valor = 0;
+    while (io >> clave >> valor)
+        if (clave == "rchar:") return valor;
+    return 0;
+}
+
+TEST_F(Escaner, SelectingAGameReadsAboutItsOwnSize) {
+    std::string texto;
+    for (int i = 0; i < 4000; ++i)
+        texto += "[Event \"E" + std::to_string(i) +
+                 "\"]\n[White \"A\"]\n[Black \"B\"]\n\n"
+                 "1. e4 e5 2. Nf3 Nc6 3. Bb5 a6 4. Ba4 Nf6 5. O-O Be7 *\n\n";
+    const std::string ruta = Escribir("muchas.pgn", texto);
+    Abrir(ruta);
+    ASSERT_EQ(TotalPartidas, 4000);
+    for (int k : {2000, 3999, 0}) {
+        ElegirPartidaPgn(k);
+        const uint64_t antes = BytesLeidos();
+        CargarPartidaPgn();
+        const uint64_t leidos = BytesLeidos() - antes;
+        EXPECT_EQ(ListaPgn::Text1[0], "E" + std::to_string(k));
+        EXPECT_EQ(ListaPgn::PgnJugadas.size(), 10u);
+        EXPECT_LT(leidos, 16u * 1024) << "game " << k << " of a " << texto.size() << "-byte file";
+    }
+}
+
 TEST_F(Escaner, ClickingTheShownEntryDoesNothing) {
     Abrir(Escribir("tres.pgn", kTres));
     EXPECT_FALSE(ElegirPartidaPgn(0));
