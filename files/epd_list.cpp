@@ -50,6 +50,7 @@ bool LeerEPD(const std::string& ruta) {
     Turno = 0;
     Cargando = VistaEpd = true;
     entorno().MarcadorVisible(false);
+    entorno().OcultarMarcasUltimaJugada();
     entorno().AvisoCargando();
     if (!Eventos.empty()) {
         CasillasEpd c;

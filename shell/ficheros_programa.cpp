@@ -60,6 +60,10 @@ Temporizadores& Timers() {
 void AbrirPartidaQtr(const std::string& ruta) {
     Timers().sendQtr.stop();
     Timers().retraso.stop();
+    // The file says what kind of game it is; nothing of the one before is kept.
+    TipoPartida.clear();
+    ColorJugador.clear();
+    Turno = 0;
     if (!AbrirQtr(RutaReal(ruta))) return;
     // A replay is shown from White's side.
     if (Marcada("mnuInvertirTablero") && Forms().mdi) {
@@ -196,6 +200,7 @@ void MostrarColorRgb() {
             });
     }
     if (Forms().mdi) {
+        dialogo->adjustSize(); // before its first show it does not know its own size
         const QRect m = Forms().mdi->geometry();
         dialogo->move(m.center() - dialogo->rect().center());
     }

@@ -19,6 +19,7 @@
 #include <QMessageBox>
 #include <QPixmap>
 #include <QPushButton>
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 
@@ -105,12 +106,22 @@ void Sonar(int n) {
     MostrarMensaje("Quintarena", ReemplazarDolar(Mensajes[54], RutaReal(carpeta)), kIconoStop);
 }
 
+std::string NombreFiltro(const std::string& etiqueta, const std::string& patron) {
+    std::string p = patron;
+    std::replace(p.begin(), p.end(), ';', ' ');
+    const QString entre = "(" + Q(p) + ")";
+    QString nombre = Q(etiqueta);
+    nombre.remove(entre);
+    nombre = nombre.simplified();
+    if (nombre.isEmpty() || nombre == Q(patron)) return p;
+    return (nombre + " " + entre).toStdString();
+}
+
 RespuestaDialogo DialogoFichero(int modo, const std::string& titulo, const std::string& fichero,
                                 const Filtros& filtros, int filtroIndice, const std::string& dir) {
     if (Dialogos()) return Dialogos()(modo, titulo);
     QStringList lista;
-    for (const auto& [etiqueta, patron] : filtros)
-        lista << Q(etiqueta) + " (" + Q(patron).replace(';', ' ') + ")";
+    for (const auto& [etiqueta, patron] : filtros) lista << Q(NombreFiltro(etiqueta, patron));
     QFileDialog d(Forms().mdi, Q(titulo), Q(RutaReal(dir)));
     d.setNameFilters(lista);
     if (filtroIndice >= 1 && filtroIndice <= lista.size())

@@ -47,6 +47,9 @@ struct RespuestaDialogo {
 };
 using Filtros = std::vector<std::pair<std::string, std::string>>; // label, pattern
 inline constexpr int kDialogoAbrir = 1;
+// The name a dialog shows for a filter: the label with its pattern behind it once, however often
+// the label already holds it.
+std::string NombreFiltro(const std::string& etiqueta, const std::string& patron);
 RespuestaDialogo DialogoFichero(int modo, const std::string& titulo, const std::string& fichero,
                                 const Filtros& filtros, int filtroIndice, const std::string& dir);
 using PresentadorDialogos = std::function<RespuestaDialogo(int modo, const std::string& titulo)>;

@@ -234,6 +234,11 @@ void InstalarTablero() {
     en.Comandos["mnuNuevaPartida"] = [] {
         if (PartidaOcupada() || Cierto(Enlace().Conectado) || !T().vista) return;
         PartidaLocal(*T().vista->Picture());
+        // A new game is seen from White's side.
+        if (Marcada("mnuInvertirTablero")) {
+            Marcar("mnuInvertirTablero", false);
+            T().vista->PonerInvertido(false);
+        }
     };
 }
 

@@ -6,6 +6,7 @@
 #include "board/vista_tablero.h"
 #include "core/game_state.h"
 #include "core/move_list.h"
+#include "files/fen.h"
 #include "shell/arranque.h"
 #include "shell/enlaces.h"
 #include "shell/ficheros_programa.h"
@@ -14,6 +15,8 @@
 #include "shell/jugadas.h"
 #include "shell/mdi.h"
 #include "shell/quintarena.h"
+#include "shell/reloj.h"
+#include "shell/servicios.h"
 #include "shell/tablero_programa.h"
 
 #include <QAction>
@@ -192,6 +195,74 @@ TEST_F(ProgramaConTablero, PgnCollectionOpensInTheBrowserAndPlaysOnTheBoard) {
     EXPECT_FALSE(Cierto(Enlace().ListaPgnVisible));
     EXPECT_EQ(Tablero[4][8], DamaN) << "the start position is back";
     EXPECT_TRUE(prueba::Esperar([] { return Forms().jugadas->isVisible(); }));
+}
+
+TEST_F(ProgramaConTablero, NewGameLeavesNothingOfTheGameBefore) {
+    Entrada("mnuNuevaPartida")->trigger();
+    Arrastrar("e2e4");
+    ASSERT_TRUE(vista->Picture()->MarcosMostrados());
+    // The EPD browser shows its positions on a board of its own: the last move is no longer
+    // the main board's.
+    carpeta.Escribir("una.epd", "4k3/8/8/8/8/8/8/4K2R w K -\n");
+    Forms().mdi->AbrirFichero(carpeta.Ruta("una.epd").string());
+    EXPECT_FALSE(vista->Picture()->MarcosMostrados());
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->inherits("qa::EpdF")) w->close();
+
+    // A game from a position, on a reversed board, after a replay emptied the clocks.
+    PosicionFen = "4k3/8/8/8/8/8/8/4K2R w K -";
+    ASSERT_TRUE(AbrirEpd());
+    ASSERT_TRUE(DesdePosicion);
+    Marcar("mnuInvertirTablero", true);
+    Forms().mdi->Comando("mnuInvertirTablero");
+    Forms().reloj->Label(3)->setText("");
+    Forms().reloj->Label(4)->setText("");
+    TipoPartida = "A";
+    ColorJugador = "Blancas";
+
+    Entrada("mnuNuevaPartida")->trigger();
+    EXPECT_FALSE(DesdePosicion);
+    EXPECT_EQ(TipoPartida, "");
+    EXPECT_EQ(ColorJugador, "");
+    EXPECT_EQ(Turno, 1);
+    EXPECT_EQ(Forms().reloj->Label(3)->text(), "00:00");
+    EXPECT_EQ(Forms().reloj->Label(4)->text(), "00:00");
+    EXPECT_FALSE(Marcada("mnuInvertirTablero"));
+    EXPECT_GT(Centro("e2").y(), vista->Picture()->height() / 2) << "White at the bottom again";
+    EXPECT_EQ(Tablero[1][1], TorreB);
+
+    const std::string ruta = carpeta.Ruta("nueva.qtr").string();
+    FijarPresentadorDialogos([&](int, const std::string&) {
+        RespuestaDialogo r;
+        r.fichero = ruta;
+        r.carpeta = carpeta.Ruta().string();
+        return r;
+    });
+    Entrada("mnuGuardarPartida")->trigger();
+    FijarPresentadorDialogos(nullptr);
+    EXPECT_EQ(carpeta.Leer("nueva.qtr"), "0000\r\n0000\r\nA\r\n");
+}
+
+TEST_F(ProgramaConTablero, OpeningAGameFileForgetsTheKindAndColourBefore) {
+    TipoPartida = "R";
+    ColorJugador = "Negras";
+    carpeta.Escribir("sin_tipo.qtr", "0000\r\n0000\r\n5254\r\n5755\r\n");
+    Forms().mdi->AbrirFichero(carpeta.Ruta("sin_tipo.qtr").string());
+    ASSERT_TRUE(prueba::Esperar([] { return !Cargando; }, 10000));
+    EXPECT_EQ(Tablero[5][5], PeonN);
+    EXPECT_EQ(TipoPartida, "") << "the file names no kind";
+    EXPECT_EQ(ColorJugador, "");
+}
+
+TEST_F(ProgramaConTablero, ColourDialogOpensCentredTheFirstTime) {
+    Entrada("mnuRgb")->trigger();
+    QWidget* dialogo = nullptr;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->inherits("qa::ColorRgb") && w->isVisible()) dialogo = w;
+    ASSERT_NE(dialogo, nullptr);
+    const QPoint d = dialogo->frameGeometry().center() - Forms().mdi->geometry().center();
+    EXPECT_LE(d.manhattanLength(), 4) << d.x() << "," << d.y();
+    dialogo->close();
 }
 
 } // namespace
