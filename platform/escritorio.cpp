@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 
@@ -60,6 +61,25 @@ std::string CarpetaDatosUsuario() {
     if (const char* x = std::getenv("XDG_DATA_HOME"); x && *x) return x;
     if (const char* h = std::getenv("HOME"); h && *h) return std::string(h) + "/.local/share";
     return {};
+}
+
+std::string CarpetaEscritura(const std::string& programa,
+                             const std::vector<std::string>& semillas) {
+    if (::access(programa.c_str(), W_OK) == 0) return programa;
+    const std::string datos =
+        QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+    std::error_code ec;
+    if (datos.empty() || (!fs::create_directories(datos, ec) && ec)) return {};
+    for (const auto& nombre : semillas) {
+        const fs::path origen = fs::path(programa) / nombre;
+        const fs::path destino = fs::path(datos) / nombre;
+        if (fs::exists(destino, ec) || !fs::exists(origen, ec)) continue;
+        fs::copy_file(origen, destino, ec);
+        // The shipped copy may be read-only; ours is written from now on.
+        fs::permissions(destino, fs::perms::owner_read | fs::perms::owner_write,
+                        fs::perm_options::add, ec);
+    }
+    return datos;
 }
 
 bool RegistrarTipoEscritorio(const TipoEscritorio& t) {

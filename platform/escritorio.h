@@ -2,6 +2,7 @@
 // File association the freedesktop way, for the current user: a shared-mime-info package and a
 // hidden .desktop entry under the user's data folder ($XDG_DATA_HOME, else ~/.local/share).
 #include <string>
+#include <vector>
 
 namespace qa {
 
@@ -15,6 +16,12 @@ struct TipoEscritorio {
 };
 
 std::string CarpetaDatosUsuario();
+
+// The folder for the files the program writes: `programa` itself when it can be written (a build
+// folder, a portable copy); otherwise this user's data folder of the application, where the
+// files named in `semillas` are first copied from `programa` unless they are there already.
+// Empty when neither can be used.
+std::string CarpetaEscritura(const std::string& programa, const std::vector<std::string>& semillas);
 
 // Writes both files and runs update-mime-database and update-desktop-database when present.
 // False when a file could not be written.

@@ -3,15 +3,27 @@
 namespace qa {
 
 std::string DirectorioPrograma;
+std::string DirectorioDatos;
 std::string FicheroOpciones;
 std::string FinLinea = "\r\n";
 
+namespace {
+
+std::string ConBarra(std::string carpeta) {
+    if (carpeta.empty() || (carpeta.back() != '\\' && carpeta.back() != '/')) carpeta += '\\';
+    return carpeta;
+}
+
+} // namespace
+
 void FijarDirectorioPrograma(const std::string& carpeta) {
-    DirectorioPrograma = carpeta;
-    if (DirectorioPrograma.empty() ||
-        (DirectorioPrograma.back() != '\\' && DirectorioPrograma.back() != '/'))
-        DirectorioPrograma += '\\';
-    FicheroOpciones = DirectorioPrograma + "Default.ini";
+    DirectorioPrograma = ConBarra(carpeta);
+    FijarDirectorioDatos(DirectorioPrograma);
+}
+
+void FijarDirectorioDatos(const std::string& carpeta) {
+    DirectorioDatos = ConBarra(carpeta);
+    FicheroOpciones = DirectorioDatos + "Default.ini";
 }
 
 } // namespace qa

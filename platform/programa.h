@@ -6,10 +6,15 @@
 namespace qa {
 
 extern std::string DirectorioPrograma;
+// Where the settings, the ranking and the other files the program writes live: the program's
+// own folder, unless an installed copy cannot write there. Same style as DirectorioPrograma.
+extern std::string DirectorioDatos;
 extern std::string FicheroOpciones;
 extern std::string FinLinea;
 
-// Sets DirectorioPrograma from a real folder, and FicheroOpciones after it.
+// Sets DirectorioPrograma from a real folder, and DirectorioDatos and FicheroOpciones after it.
 void FijarDirectorioPrograma(const std::string& carpeta);
+// Moves the written files to another real folder: DirectorioDatos and FicheroOpciones.
+void FijarDirectorioDatos(const std::string& carpeta);
 
 } // namespace qa

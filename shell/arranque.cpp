@@ -1,5 +1,6 @@
 #include "shell/arranque.h"
 
+#include "platform/escritorio.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
@@ -57,6 +58,13 @@ void FijarCarpetaPrograma(const std::string& carpeta) {
 std::string CarpetaPrograma() {
     if (!CarpetaFijada().empty()) return CarpetaFijada();
     return QCoreApplication::applicationDirPath().toStdString();
+}
+
+void FijarCarpetas() {
+    const std::string programa = CarpetaPrograma();
+    FijarDirectorioPrograma(programa);
+    const std::string datos = CarpetaEscritura(programa, {"Default.ini", "Puntuacion.dat"});
+    if (!datos.empty()) FijarDirectorioDatos(datos);
 }
 
 void TerminarPrograma() {
@@ -117,7 +125,7 @@ bool Main(const std::vector<std::string>& argumentos) {
     g_vacia = "";
     g_r = "R";
     g_t = "T";
-    FijarDirectorioPrograma(CarpetaPrograma());
+    FijarCarpetas();
     if (!ExisteFichero(FicheroOpciones)) return false;
 
     auto* mdi = new Mdi;

@@ -50,6 +50,8 @@ namespace qa {
 // The real folder of the program: the executable's, unless a test has set another.
 void FijarCarpetaPrograma(const std::string& carpeta);
 std::string CarpetaPrograma();
+// DirectorioPrograma from CarpetaPrograma, and where the written files go (DirectorioDatos).
+void FijarCarpetas();
 
 // Creates every form of the shell, hidden, as children of the main window.
 void CrearFormularios();

@@ -172,7 +172,7 @@ void GuardarPartidaComando() {
         const int n = patron == "*.qtr" ? 44 : patron == "*.pgn" ? 48 : 82;
         filtros.push_back({Mensajes[n] + etiqueta, patron});
     }
-    if (CarpetaGuardar().empty()) CarpetaGuardar() = RutaReal(DirectorioPrograma);
+    if (CarpetaGuardar().empty()) CarpetaGuardar() = RutaReal(DirectorioDatos);
     const auto r = DialogoFichero(2, Mensajes[45], "", filtros, 1, CarpetaGuardar());
     if (r.fichero.empty()) return;
     CarpetaGuardar() = r.carpeta;

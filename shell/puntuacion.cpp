@@ -35,8 +35,8 @@ std::int32_t* Campos(RegistroPuntuacion& r, int i) {
 } // namespace
 
 std::string FicheroPuntuacion() {
-    if (TerminaEn(DirectorioPrograma, "\\")) return DirectorioPrograma + "Puntuacion.dat";
-    return DirectorioPrograma + "\\Puntuacion.dat";
+    if (TerminaEn(DirectorioDatos, "\\")) return DirectorioDatos + "Puntuacion.dat";
+    return DirectorioDatos + "\\Puntuacion.dat";
 }
 
 void LeerPuntuacion() {

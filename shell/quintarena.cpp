@@ -64,7 +64,7 @@ void Quintarena::Cargar() {
     Splash* splash = f.splash;
     FinLinea = "\r\n";
     splash->Estado("Cargando configuración...");
-    FijarDirectorioPrograma(CarpetaPrograma());
+    FijarCarpetas();
     if (!ExisteFichero(FicheroOpciones)) {
         TerminarPrograma();
         return;
