@@ -158,8 +158,21 @@ void Mdi::CambiarNotacion(int n) {
     Ejecutar(Enlace().NotacionCambiada);
 }
 
+namespace {
+
+// The user's guide is a page per language beside the program, named after the language file as
+// it lies on disk: "Quintarena-English.html" goes with "English.lng".
+std::string FicheroAyuda() {
+    const std::string real = RutaReal(FicheroIdioma);
+    std::string idioma = real.substr(real.find_last_of('/') + 1);
+    if (TerminaEn(Minusculas(idioma), ".lng")) idioma.resize(idioma.size() - 4);
+    return DirectorioPrograma + "Quintarena-" + idioma + ".html";
+}
+
+} // namespace
+
 void Mdi::MostrarAyuda() {
-    const std::string fichero = DirectorioPrograma + "Quintarena.chm";
+    const std::string fichero = FicheroAyuda();
     if (!ExisteRuta(fichero)) {
         MostrarMensaje("Quintarena", ReemplazarDolar(Mensajes[63], RutaReal(fichero)), kIconoStop);
         return;

@@ -190,6 +190,24 @@ for dir in "$D"/apariencias/*/; do
   fi
 done
 
+# ---------------------------------------------------------------- user's guide
+# One page per language file, named after it, and every picture it shows beside it.
+for f in "$D"/*.lng; do
+  n=$(basename "$f" .lng)
+  g="$D/Quintarena-$n.html"
+  [ -f "$g" ] || { fail "no user's guide $(basename "$g") for $n.lng"; continue; }
+  iconv -f UTF-8 -t UTF-8 "$g" > /dev/null 2>&1 || fail "$g is not valid UTF-8"
+  grep -q '<meta charset="utf-8">' "$g" || fail "$g does not say it is UTF-8"
+  for img in $(grep -o 'src="[^"]*"' "$g" | sed 's/^src="//; s/"$//'); do
+    [ -f "$D/$img" ] || fail "$g shows $img, which is not shipped"
+    case "$img" in *.png) [ "$(head -c 8 "$D/$img" | od -An -tx1 | tr -d ' ')" = 89504e470d0a1a0a ] ||
+      fail "$img is not a PNG";; esac
+  done
+  for a in $(grep -o 'href="#[^"]*"' "$g" | sed 's/^href="#//; s/"$//'); do
+    grep -q "id=\"$a\"" "$g" || fail "$g links to #$a, which it lacks"
+  done
+done
+
 # ---------------------------------------------------------------- built-in pieces
 if [ -n "$P" ]; then
   for n in "${names[@]}" cuadrob cuadron; do

@@ -13,7 +13,8 @@ fallo() { echo "FAIL: $*"; [ -f "$raiz/salida.txt" ] && cat "$raiz/salida.txt"; 
 
 cmake --install "$build" --prefix "$prefijo" >/dev/null
 carpeta="$prefijo/lib/quintarena"
-for f in quintarena quintarena-cli Default.ini English.lng Español.lng Sonidos/Mueve.wav; do
+for f in quintarena quintarena-cli Default.ini English.lng Español.lng Sonidos/Mueve.wav \
+         Quintarena-Español.html Quintarena-English.html ayuda/es-pgn.png; do
   [ -e "$carpeta/$f" ] || fallo "$f is not in lib/quintarena"
 done
 [ "$(readlink -f "$prefijo/bin/quintarena")" = "$(readlink -f "$carpeta/quintarena")" ] ||

@@ -19,8 +19,10 @@
 
 #include <QAction>
 #include <QDate>
+#include <QDesktopServices>
 #include <QLabel>
 #include <QTest>
+#include <QUrl>
 #include <gtest/gtest.h>
 
 namespace fs = std::filesystem;
@@ -44,6 +46,15 @@ TEST(Mensajes, NumberOrText) {
     EXPECT_EQ(cajas.vistas[1].texto, "hola");
     EXPECT_EQ(cajas.vistas[2].texto, "110");
     EXPECT_EQ(cajas.vistas[2].icono, kIconoStop);
+}
+
+TEST(Dialogos, FilterNamesShowTheirPatternOnce) {
+    EXPECT_EQ(NombreFiltro("Partidas de Quintarena (*.qtr) (*.qtr)", "*.qtr"),
+              "Partidas de Quintarena (*.qtr)");
+    EXPECT_EQ(NombreFiltro("Quintarena", "*.qtr"), "Quintarena (*.qtr)");
+    EXPECT_EQ(NombreFiltro(" Pgn (*.pgn)", "*.pgn"), "Pgn (*.pgn)");
+    EXPECT_EQ(NombreFiltro("*.txt", "*.txt"), "*.txt");
+    EXPECT_EQ(NombreFiltro("Todos", "*.a;*.b"), "Todos (*.a *.b)");
 }
 
 TEST(BarraEstado, TimeDateAndConnection) {
@@ -249,4 +260,41 @@ TEST(Pantalla, ColoursAndWidth) {
     EXPECT_TRUE(Quintarena::ComprobarResolucion(800));
 }
 
+// Stands in for the desktop's viewer: records what it was asked to open.
+class Visor : public QObject {
+    Q_OBJECT
+public:
+    Visor() { QDesktopServices::setUrlHandler("file", this, "Abrir"); }
+    ~Visor() override { QDesktopServices::unsetUrlHandler("file"); }
+    std::vector<std::string> abiertos;
+public slots:
+    void Abrir(const QUrl& url) { abiertos.push_back(url.toLocalFile().toStdString()); }
+};
+
+TEST_F(Arrancado, HelpOpensTheGuideOfTheCurrentLanguage) {
+    Visor visor;
+    Entrada("mnuTemaAyuda")->trigger();
+    ASSERT_EQ(cajas.vistas.size(), 1u) << "no guide beside the program";
+    EXPECT_EQ(cajas.vistas[0].icono, kIconoStop);
+    EXPECT_NE(cajas.vistas[0].texto.find(c.Ruta("Quintarena-Español.html").string()),
+              std::string::npos)
+        << cajas.vistas[0].texto;
+    EXPECT_TRUE(visor.abiertos.empty());
+
+    c.Escribir("Quintarena-Español.html", "<html></html>");
+    c.Escribir("Quintarena-English.html", "<html></html>");
+    Entrada("mnuTemaAyuda")->trigger();
+    ASSERT_EQ(visor.abiertos.size(), 1u);
+    EXPECT_EQ(visor.abiertos[0], c.Ruta("Quintarena-Español.html").string());
+
+    // The language file is named in lower case by the options; the guide keeps the file's name.
+    FijarIdioma("english.lng");
+    Entrada("mnuTemaAyuda")->trigger();
+    ASSERT_EQ(visor.abiertos.size(), 2u);
+    EXPECT_EQ(visor.abiertos[1], c.Ruta("Quintarena-English.html").string());
+    EXPECT_EQ(cajas.vistas.size(), 1u);
+}
+
 } // namespace
+
+#include "servicios_test.moc"
