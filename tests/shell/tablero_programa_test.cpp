@@ -22,6 +22,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QImage>
+#include <QPixmap>
+#include <QScreen>
 #include <QTest>
 #include <algorithm>
 #include <cstdlib>
@@ -66,9 +68,15 @@ protected:
         QTest::mouseRelease(p, Qt::LeftButton, {}, b);
     }
     // With QA_CAPTURAS naming a folder, the main window is saved there as a picture.
+    // Under a real X server the whole screen, with the windows of their own.
     static void Captura(const char* nombre) {
-        if (const char* d = std::getenv("QA_CAPTURAS"))
-            Forms().mdi->grab().save(QString::fromUtf8(d) + "/" + nombre + ".png");
+        const char* d = std::getenv("QA_CAPTURAS");
+        if (!d) return;
+        QApplication::processEvents();
+        const QPixmap imagen = QGuiApplication::platformName() == "xcb"
+                                   ? QGuiApplication::primaryScreen()->grabWindow(0)
+                                   : Forms().mdi->grab();
+        imagen.save(QString::fromUtf8(d) + "/" + nombre + ".png");
     }
     std::string Lista() const { return Forms().jugadas->Lista()->toPlainText().toStdString(); }
 };
@@ -230,6 +238,7 @@ TEST_F(ProgramaConTablero, NewGameLeavesNothingOfTheGameBefore) {
     EXPECT_FALSE(Marcada("mnuInvertirTablero"));
     EXPECT_GT(Centro("e2").y(), vista->Picture()->height() / 2) << "White at the bottom again";
     EXPECT_EQ(Tablero[1][1], TorreB);
+    Captura("programa-nueva-partida");
 
     const std::string ruta = carpeta.Ruta("nueva.qtr").string();
     FijarPresentadorDialogos([&](int, const std::string&) {
@@ -262,6 +271,7 @@ TEST_F(ProgramaConTablero, ColourDialogOpensCentredTheFirstTime) {
     ASSERT_NE(dialogo, nullptr);
     const QPoint d = dialogo->frameGeometry().center() - Forms().mdi->geometry().center();
     EXPECT_LE(d.manhattanLength(), 4) << d.x() << "," << d.y();
+    Captura("programa-colores");
     dialogo->close();
 }
 
