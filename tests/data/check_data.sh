@@ -198,6 +198,9 @@ for f in "$D"/*.lng; do
   [ -f "$g" ] || { fail "no user's guide $(basename "$g") for $n.lng"; continue; }
   iconv -f UTF-8 -t UTF-8 "$g" > /dev/null 2>&1 || fail "$g is not valid UTF-8"
   grep -q '<meta charset="utf-8">' "$g" || fail "$g does not say it is UTF-8"
+  for css in $(grep -o 'href="[^#"][^"]*"' "$g" | sed 's/^href="//; s/"$//'); do
+    [ -f "$D/$css" ] || fail "$g links to $css, which is not shipped"
+  done
   for img in $(grep -o 'src="[^"]*"' "$g" | sed 's/^src="//; s/"$//'); do
     [ -f "$D/$img" ] || fail "$g shows $img, which is not shipped"
     case "$img" in *.png) [ "$(head -c 8 "$D/$img" | od -An -tx1 | tr -d ' ')" = 89504e470d0a1a0a ] ||

@@ -44,12 +44,10 @@ antes="$(ls -A "$carpeta")"
 "${comun[@]}" "$prefijo/bin/quintarena" >"$raiz/salida.txt" 2>&1 &
 pid=$!
 datos="$casa/.local/share/Quintarena"
-for _ in $(seq 1 300); do
-  [ -s "$datos/Puntuacion.dat" ] && break
-  sleep 0.1
-done
+# The rating record is written at the end of the start; a program that died is not waited for.
+until [ -s "$datos/Puntuacion.dat" ] || ! kill -0 "$pid" 2>/dev/null; do sleep 0.1; done
 sleep 1
-kill -TERM "$pid"
+kill -TERM "$pid" 2>/dev/null || true
 codigo=0
 wait "$pid" || codigo=$?
 [ "$codigo" -eq 0 ] || fallo "exit code $codigo"

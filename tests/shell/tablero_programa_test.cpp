@@ -79,6 +79,16 @@ protected:
         imagen.save(QString::fromUtf8(d) + "/" + nombre + ".png");
     }
     std::string Lista() const { return Forms().jugadas->Lista()->toPlainText().toStdString(); }
+    // Every file dialog answers with this file of the scratch folder.
+    void Responder(const std::string& nombre) {
+        const std::string ruta = carpeta.Ruta(nombre).string(), dir = carpeta.Ruta().string();
+        FijarPresentadorDialogos([ruta, dir](int, const std::string&) {
+            RespuestaDialogo r;
+            r.fichero = ruta;
+            r.carpeta = dir;
+            return r;
+        });
+    }
 };
 
 TEST_F(ProgramaConTablero, FoolsMateFromTheMenuToTheMessage) {
@@ -152,12 +162,7 @@ TEST_F(ProgramaConTablero, SavedGameFileReplaysOnTheBoardByItsTimers) {
     int32_t antes[9][9];
     std::copy(&Tablero[0][0], &Tablero[0][0] + 81, &antes[0][0]);
     const std::string ruta = carpeta.Ruta("partida.qtr").string();
-    FijarPresentadorDialogos([&](int, const std::string&) {
-        RespuestaDialogo r;
-        r.fichero = ruta;
-        r.carpeta = carpeta.Ruta().string();
-        return r;
-    });
+    Responder("partida.qtr");
     Entrada("mnuGuardarPartida")->trigger();
     ASSERT_TRUE(std::filesystem::exists(ruta));
     EXPECT_TRUE(cajas.Hay(Mensajes[34])) << "the game is saved";
@@ -181,12 +186,7 @@ TEST_F(ProgramaConTablero, PgnCollectionOpensInTheBrowserAndPlaysOnTheBoard) {
                                 "[Event \"Segunda\"]\n[Site \"?\"]\n[Date \"?\"]\n[Round \"2\"]\n"
                                 "[White \"C\"]\n[Black \"D\"]\n[Result \"1-0\"]\n\n"
                                 "1. e4 e5 2. Bc4 Nc6 3. Qh5 Nf6 4. Qxf7# 1-0\n");
-    FijarPresentadorDialogos([&](int, const std::string&) {
-        RespuestaDialogo r;
-        r.fichero = carpeta.Ruta("dos.pgn").string();
-        r.carpeta = carpeta.Ruta().string();
-        return r;
-    });
+    Responder("dos.pgn");
     Entrada("mnuAbrirPartida")->trigger();
     FijarPresentadorDialogos(nullptr);
     ASSERT_TRUE(Cierto(Enlace().ListaPgnVisible));
@@ -240,13 +240,7 @@ TEST_F(ProgramaConTablero, NewGameLeavesNothingOfTheGameBefore) {
     EXPECT_EQ(Tablero[1][1], TorreB);
     Captura("programa-nueva-partida");
 
-    const std::string ruta = carpeta.Ruta("nueva.qtr").string();
-    FijarPresentadorDialogos([&](int, const std::string&) {
-        RespuestaDialogo r;
-        r.fichero = ruta;
-        r.carpeta = carpeta.Ruta().string();
-        return r;
-    });
+    Responder("nueva.qtr");
     Entrada("mnuGuardarPartida")->trigger();
     FijarPresentadorDialogos(nullptr);
     EXPECT_EQ(carpeta.Leer("nueva.qtr"), "0000\r\n0000\r\nA\r\n");
