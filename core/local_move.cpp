@@ -76,6 +76,15 @@ void FinComun() {
 }
 
 void NuevaPartidaLocal() {
+    // Nothing of what came before, a game from a position or a replayed file, stays: clocks
+    // shown at zero, no game kind or colour, nothing loading.
+    entorno().PonerTextoReloj(1, "00:00");
+    entorno().PonerTextoReloj(2, "00:00");
+    DesdePosicion = false;
+    TipoPartida.clear();
+    ColorJugador.clear();
+    LineasPartida.assign(2, std::string());
+    Cargando = EditandoTablero = false;
     VariablesCero();
     Jugadas::Vaciar();
     PonerFichas();

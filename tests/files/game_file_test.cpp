@@ -1,5 +1,6 @@
 // Saving in the three formats and replaying a .qtr file, through real files.
 #include "core/move_list.h"
+#include "files/fen.h"
 #include "files/game_file.h"
 #include "files/line_reader.h"
 #include "files/pgn_scanner.h"
@@ -26,6 +27,24 @@ TEST_F(Fichero, NewGameSavedAtOnce) {
     EXPECT_EQ(GuardarPartida(ruta), Guardado::Hecho);
     EXPECT_EQ(Leer(ruta), "0000\r\n0000\r\nA\r\n");
     EXPECT_EQ(Mensajes(), "34");
+}
+
+TEST_F(Fichero, NewGameAfterAPositionAndAReplayKeepsNothingOfThem) {
+    PosicionFen = "4k3/8/8/8/8/8/8/4K2R w K -";
+    ASSERT_TRUE(AbrirEpd());
+    ASSERT_TRUE(DesdePosicion);
+    Relojes("", ""); // as a replay leaves them
+    TipoPartida = "A";
+    ColorJugador = "Negras";
+    Cargando = true;
+    Nueva();
+    EXPECT_FALSE(DesdePosicion);
+    EXPECT_FALSE(Cargando);
+    EXPECT_EQ(ColorJugador, "");
+    EXPECT_EQ(FiltrosGuardar().size(), 3u) << "every format is offered again";
+    const std::string ruta = dir + "/nueva.qtr";
+    EXPECT_EQ(GuardarPartida(ruta), Guardado::Hecho);
+    EXPECT_EQ(Leer(ruta), "0000\r\n0000\r\nA\r\n");
 }
 
 TEST_F(Fichero, GameKindLinesFollowTheClocks) {
