@@ -58,8 +58,10 @@ bool LectorLineas::Rellenar() {
     const uint64_t desde = base_ + fin_;
     size_t pedir = capacidad_ - fin_;
     if (hasta_ != kFin) {
-        const uint64_t falta = hasta_ > desde ? hasta_ - desde : kCola;
-        pedir = static_cast<size_t>(std::min<uint64_t>(pedir, std::max<uint64_t>(falta, 1)));
+        // Past the end the steps double with the line, so a long last line is not read in
+        // thousands of small pieces.
+        const uint64_t falta = hasta_ > desde ? hasta_ - desde : std::max(kCola, fin_ - ini_);
+        pedir = static_cast<size_t>(std::min<uint64_t>(pedir, falta));
     }
     for (;;) {
         ssize_t n = ::pread(fd_, buf_.get() + fin_, pedir, static_cast<off_t>(desde));

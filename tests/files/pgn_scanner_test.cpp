@@ -1,6 +1,7 @@
 // The scanner over real files: what the list, the tag boxes and the move
 // rows show, the lossy parts included, and that a selection read through
 // the index shows what a reading from the first line shows.
+#include "files/line_reader.h"
 #include "files/pgn_browser.h"
 #include "files/pgn_moves.h"
 #include "files/pgn_scanner.h"
@@ -162,6 +163,27 @@ TEST_F(Escaner, SelectingAGameReadsAboutItsOwnSize) {
         EXPECT_EQ(ListaPgn::PgnJugadas.size(), 10u);
         EXPECT_LT(leidos, 16u * 1024) << "game " << k << " of a " << texto.size() << "-byte file";
     }
+}
+
+TEST_F(Escaner, ARangeEndsWithItsLastLineWhateverItsLength) {
+    const std::string larga(3 << 20, 'x');
+    const std::string ruta = Escribir("larga.txt", "a\r\n" + larga + "\nb\nc");
+    // The range ends inside the long line: it is returned whole, and nothing after it.
+    LectorLineas lector(ruta, 0, 10);
+    std::string_view linea;
+    ASSERT_TRUE(lector.Siguiente(linea));
+    EXPECT_EQ(linea, "a");
+    const uint64_t antes = BytesLeidos();
+    ASSERT_TRUE(lector.Siguiente(linea));
+    EXPECT_EQ(linea.size(), larga.size());
+    EXPECT_EQ(lector.Posicion(), 3u);
+    EXPECT_FALSE(lector.Siguiente(linea));
+    EXPECT_LT(BytesLeidos() - antes, 2 * larga.size());
+    // A range that starts at a line gives the lines from there to the file's end.
+    LectorLineas resto(ruta, 3 + larga.size() + 1);
+    std::string visto;
+    while (resto.Siguiente(linea)) visto += std::string(linea) + "|";
+    EXPECT_EQ(visto, "b|c|");
 }
 
 TEST_F(Escaner, ClickingTheShownEntryDoesNothing) {
