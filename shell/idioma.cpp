@@ -96,7 +96,7 @@ std::string TextoMensaje(const std::string& texto) {
     return texto;
 }
 
-ListaIdiomas LlenarIdiomas() {
+ListaIdiomas LlenarIdiomas(const std::string& ajuste) {
     namespace fs = std::filesystem;
     std::vector<std::string> ficheros;
     std::error_code ec;
@@ -105,11 +105,25 @@ ListaIdiomas LlenarIdiomas() {
         std::string n = it->path().filename().string();
         if (TerminaEn(Minusculas(n), ".lng") && it->is_regular_file(ec)) ficheros.push_back(n);
     }
-    // The folder order of the platform the program was made for: by name, case aside.
+    // By name, case aside; then the files the setting names move behind the others. The
+    // reading below leaves the last file current and the choice never looks at the first
+    // entry, so this is what lets every language be chosen. Names with an upper-case
+    // extension keep their places: they are listed only when they come first.
     std::sort(ficheros.begin(), ficheros.end(), [](const std::string& a, const std::string& b) {
         auto ma = Minusculas(a), mb = Minusculas(b);
         return ma != mb ? ma < mb : a < b;
     });
+    std::vector<std::size_t> sitios;
+    std::vector<std::string> nuestros;
+    for (std::size_t i = 0; i < ficheros.size(); ++i)
+        if (TerminaEn(ficheros[i], "lng")) {
+            sitios.push_back(i);
+            nuestros.push_back(ficheros[i]);
+        }
+    std::stable_partition(nuestros.begin(), nuestros.end(), [&](const std::string& n) {
+        return !EmpiezaSinCaso(n.substr(0, n.size() - 4), ajuste);
+    });
+    for (std::size_t k = 0; k < sitios.size(); ++k) ficheros[sitios[k]] = nuestros[k];
     ListaIdiomas lista;
     for (std::size_t i = 0; i < ficheros.size(); ++i) {
         const std::string& n = ficheros[i];

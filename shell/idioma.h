@@ -22,11 +22,12 @@ void FijarIdioma(const std::string& nombre);
 std::string TextoMensaje(const std::string& texto);
 
 struct ListaIdiomas {
-    std::vector<std::string> nombres; // file names without ".lng", in the order of the folder
+    std::vector<std::string> nombres; // file names without ".lng", in the order listed
     bool primeroIncorrecto = false;   // the first file has another version: the program stops
 };
-// Lists the ".lng" files of the program's folder whose version is ours.
-ListaIdiomas LlenarIdiomas();
+// Lists the ".lng" files of the program's folder whose version is ours; those that the setting
+// `ajuste` picks (see ElegirIdioma) come last.
+ListaIdiomas LlenarIdiomas(const std::string& ajuste = "");
 
 // The entry the setting picks: each entry that starts with the setting (without regard to
 // case) matches, and the last match wins. Empty when none does.

@@ -90,7 +90,7 @@ void Opciones::AplicarIdioma() {
 
 void Opciones::LlenarIdiomas() {
     combo1_->clear();
-    auto lista = qa::LlenarIdiomas();
+    auto lista = qa::LlenarIdiomas(LeerIni(FicheroOpciones, "Configuracion", "Idioma"));
     if (lista.primeroIncorrecto) {
         MostrarMensaje("Quintarena", "Versión del idioma incorrecto.", kIconoInformacion);
         SituarVentanas();

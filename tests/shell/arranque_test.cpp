@@ -19,6 +19,7 @@
 #include "shell/ventanas.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QLabel>
 #include <QMenuBar>
@@ -235,7 +236,7 @@ TEST(Programa, ChangingTheLanguageInTheOptions) {
     c.Escribir("Zulu.lng", zulu);
     ASSERT_TRUE(Main({"quintarena"}));
     Opciones* op = Forms().opciones;
-    ASSERT_EQ(op->Idiomas(), (std::vector<std::string>{"English", "Español", "Zulu"}));
+    ASSERT_EQ(op->Idiomas(), (std::vector<std::string>{"English", "Zulu", "Español"}));
     EXPECT_EQ(op->TextoIdioma(), "Español");
 
     op->FijarTextoIdioma("Zulu");
@@ -249,6 +250,58 @@ TEST(Programa, ChangingTheLanguageInTheOptions) {
     op->FijarTextoIdioma("English");
     CambiarIdioma();
     EXPECT_EQ(FicheroIdioma, DirectorioPrograma + "zulu.lng");
+    Forms().mdi->close();
+}
+
+// Picks a language in the options as the user does, accepts, and starts the program again.
+void ElegirIdiomaYReiniciar(const std::string& nombre, bool alMomento) {
+    Opciones* op = Forms().opciones;
+    auto* combo = op->findChild<QComboBox*>("Combo1");
+    ASSERT_TRUE(combo);
+    const std::string antes = FicheroIdioma;
+    combo->setCurrentIndex(combo->findText(QString::fromStdString(nombre)));
+    emit combo->activated(combo->currentIndex());
+    EXPECT_EQ(FicheroIdioma != antes, alMomento) << nombre;
+    op->OpcionesAceptar();
+    Forms().mdi->close();
+    LiberarFormularios();
+    ASSERT_TRUE(Main({"quintarena"}));
+}
+
+std::string Menu1De(const Carpeta& c, const std::string& lng) {
+    return LeerIni(c.Ruta(lng), "Menu", "Menu1");
+}
+
+TEST(Programa, EveryLanguageCanBeChosenAndStaysAfterARestart) {
+    Carpeta c;
+    Cajas cajas;
+    ASSERT_TRUE(Main({"quintarena"}));
+    EXPECT_EQ(Forms().opciones->Idiomas(), (std::vector<std::string>{"English", "Español"}));
+    // English is the first entry, which the choice never looks at: it holds from the next start.
+    ElegirIdiomaYReiniciar("English", false);
+    EXPECT_EQ(Forms().opciones->Idiomas(), (std::vector<std::string>{"Español", "English"}));
+    EXPECT_EQ(Forms().opciones->TextoIdioma(), "English");
+    EXPECT_EQ(Entrada("mnuArchivos")->text().toStdString(), Menu1De(c, "English.lng"));
+    ElegirIdiomaYReiniciar("Español", false);
+    EXPECT_EQ(Forms().opciones->TextoIdioma(), "Español");
+    EXPECT_EQ(Entrada("mnuArchivos")->text().toStdString(), Menu1De(c, "Español.lng"));
+
+    // A third file: a language that is not first changes at once, and every one survives.
+    c.Escribir("Zulu.lng", std::regex_replace(c.Leer("English.lng"), std::regex("\nMenu1=[^\r\n]*"),
+                                              "\nMenu1=Zulu"));
+    Forms().mdi->close();
+    LiberarFormularios();
+    ASSERT_TRUE(Main({"quintarena"}));
+    EXPECT_EQ(Forms().opciones->Idiomas(),
+              (std::vector<std::string>{"English", "Zulu", "Español"}));
+    ElegirIdiomaYReiniciar("Zulu", true);
+    EXPECT_EQ(Entrada("mnuArchivos")->text(), "Zulu");
+    EXPECT_EQ(Forms().opciones->Idiomas(),
+              (std::vector<std::string>{"English", "Español", "Zulu"}));
+    ElegirIdiomaYReiniciar("English", false);
+    EXPECT_EQ(Entrada("mnuArchivos")->text().toStdString(), Menu1De(c, "English.lng"));
+    ElegirIdiomaYReiniciar("Español", false);
+    EXPECT_EQ(Entrada("mnuArchivos")->text().toStdString(), Menu1De(c, "Español.lng"));
     Forms().mdi->close();
 }
 

@@ -113,6 +113,24 @@ TEST_F(Idioma, ListingKeepsOursAndStopsOnABadFirstFile) {
     EXPECT_EQ(LlenarIdiomas().nombres.front(), "Abc");
 }
 
+TEST_F(Idioma, TheLanguagesOfTheSettingAreListedLast) {
+    for (const char* n : {"English.lng", "Español.lng", "Esp.lng", "Zulu.lng"})
+        Fichero(n, Completo());
+    EXPECT_EQ(LlenarIdiomas("esp").nombres,
+              (std::vector<std::string>{"English", "Zulu", "Esp", "Español"}));
+    EXPECT_EQ(FicheroIdioma, DirectorioPrograma + "Español.lng"); // the last read stays
+    EXPECT_EQ(LlenarIdiomas("ENGLISH").nombres,
+              (std::vector<std::string>{"Esp", "Español", "Zulu", "English"}));
+    EXPECT_EQ(LlenarIdiomas("Deutsch").nombres,
+              (std::vector<std::string>{"English", "Esp", "Español", "Zulu"}));
+    // An upper-case extension keeps its place, and is listed only in the first one.
+    Fichero("Abc.LNG", Completo());
+    EXPECT_EQ(LlenarIdiomas("English").nombres,
+              (std::vector<std::string>{"Abc", "Esp", "Español", "Zulu", "English"}));
+    EXPECT_EQ(LlenarIdiomas("Abc").nombres,
+              (std::vector<std::string>{"Abc", "English", "Esp", "Español", "Zulu"}));
+}
+
 TEST_F(Idioma, SettingPicksByPrefixAndTheLastMatchWins) {
     std::vector<std::string> lista{"Esp", "Español", "English"};
     EXPECT_EQ(ElegirIdioma(lista, "esp"), "Español");
