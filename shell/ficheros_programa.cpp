@@ -114,7 +114,6 @@ ListaPgnF* FormularioPgn() {
     const bool nueva = !FormaPgn();
     ListaPgnF* f = Navegador(FormaPgn());
     if (nueva) {
-        f->PonerTituloBase(QString::fromStdString(Texto("Pgn", "Titulo")));
         QObject::connect(f, &ListaPgnF::TableroCambiado, [] { entorno().RedibujarTablero(); });
         QObject::connect(f, &ListaPgnF::Cerrado, [] {
             entorno().RedibujarTablero();

@@ -1,5 +1,6 @@
 #include "files/gui/lista_pgn_form.h"
 
+#include "board/textos.h"
 #include "core/game_state.h"
 #include "files/game_file.h"
 #include "files/gui/modelo_lista.h"
@@ -17,6 +18,7 @@
 #include <QListView>
 #include <QListWidget>
 #include <QPushButton>
+#include <QStyle>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -38,12 +40,20 @@ namespace {
 QString Texto(const std::string& s) {
     return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size()));
 }
+
+// The seven tags, as the language file names them and as they read while none is loaded.
+constexpr const char* kCampos[7] = {"Event", "Site", "Date", "Round", "White", "Black", "Result"};
+// The tips of the navigation buttons; element 5 has two, 22 stopped and 23 playing.
+constexpr const char* kTips[6] = {"", "18", "19", "20", "21", "22"};
+constexpr const char* kTipsPorDefecto[6] = {"", "|<", "<", ">", ">|", "Auto"};
 } // namespace
 
 ListaPgnF::ListaPgnF(QWidget* padre) : QWidget(padre, Qt::Window) {
     buscar_ = new QComboBox;
-    for (const char* e : {"Event", "Site", "Date", "Round", "White", "Black", "Result"})
-        buscar_->addItem(e);
+    buscar_->setObjectName("Buscar");
+    for (const char* e : kCampos) buscar_->addItem(e);
+    frame2_ = new QLabel;
+    frame2_->setBuddy(buscar_);
     eventos_ = new QListView;
     eventos_->setObjectName("Eventos");
     eventos_->setUniformItemSizes(true);
@@ -55,23 +65,27 @@ ListaPgnF::ListaPgnF(QWidget* padre) : QWidget(padre, Qt::Window) {
 
     auto* lista = new QWidget;
     auto* l1 = new QVBoxLayout(lista);
-    l1->addWidget(buscar_);
+    auto* busqueda = new QHBoxLayout;
+    busqueda->addWidget(frame2_);
+    busqueda->addWidget(buscar_, 1);
+    l1->addLayout(busqueda);
     l1->addWidget(eventos_, 1);
     l1->addWidget(label2_);
     l1->addWidget(cuenta_);
 
     auto* etiquetas = new QWidget;
     auto* rejilla = new QGridLayout(etiquetas);
-    const char* nombres[7] = {"Event", "Site", "Date", "Round", "White", "Black", "Result"};
+    for (int i = 0; i < 7; ++i) {
+        campos_[i] = new QLabel;
+        rejilla->addWidget(campos_[i], i, 0);
+    }
     for (int i = 0; i < 6; ++i) {
         text1_[i] = new QLineEdit;
         text1_[i]->setObjectName(QString("Text1_%1").arg(i));
-        rejilla->addWidget(new QLabel(nombres[i]), i, 0);
         rejilla->addWidget(text1_[i], i, 1);
     }
     combo1_ = new QComboBox;
     combo1_->addItems({"*", "1-0", "0-1", "1/2-1/2"}); // not editable: typing is swallowed
-    rejilla->addWidget(new QLabel(nombres[6]), 6, 0);
     rejilla->addWidget(combo1_, 6, 1);
     rejilla->addWidget(mini_, 7, 0, 1, 2);
 
@@ -80,18 +94,26 @@ ListaPgnF::ListaPgnF(QWidget* padre) : QWidget(padre, Qt::Window) {
     pestanas_->addTab(etiquetas, "2");
 
     auto* botones = new QHBoxLayout;
-    const char* rotulos[6] = {"", "|<", "<", ">", ">|", "Auto"};
+    const QStyle::StandardPixmap imagenes[6] = {
+        QStyle::SP_CustomBase,       QStyle::SP_MediaSkipBackward, QStyle::SP_MediaSeekBackward,
+        QStyle::SP_MediaSeekForward, QStyle::SP_MediaSkipForward,  QStyle::SP_MediaPlay};
     for (int i = 1; i <= 5; ++i) {
-        command1_[i] = new QPushButton(rotulos[i]);
+        command1_[i] = new QPushButton(style()->standardIcon(imagenes[i]), "");
+        command1_[i]->setObjectName(QString("Command1_%1").arg(i));
         botones->addWidget(command1_[i]);
         connect(command1_[i], &QPushButton::clicked, this, [this, i] { Boton(i); });
     }
+    label3_ = new QLabel;
     combo2_ = new QComboBox;
     combo2_->setEditable(true);
     combo2_->addItems({"1000", "500", "2000", "3000"});
+    label3_->setBuddy(combo2_);
+    botones->addWidget(label3_);
     botones->addWidget(combo2_);
-    guardar_ = new QPushButton("OK");
-    cancelar_ = new QPushButton("Cancel");
+    guardar_ = new QPushButton;
+    guardar_->setObjectName("Guardar");
+    cancelar_ = new QPushButton;
+    cancelar_->setObjectName("Cancelar");
     botones->addWidget(guardar_);
     botones->addWidget(cancelar_);
 
@@ -115,9 +137,15 @@ ListaPgnF::ListaPgnF(QWidget* padre) : QWidget(padre, Qt::Window) {
         emit TableroCambiado();
     });
     connect(eventos_, &QListView::clicked, this, [this](const QModelIndex& i) { Elegir(i.row()); });
+    // The keys choose a game as the mouse does.
+    connect(eventos_->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this](const QModelIndex& i) {
+                if (!mostrando_ && i.isValid()) Elegir(i.row());
+            });
     connect(eventos_, &QListView::doubleClicked, this, [this] { pestanas_->setCurrentIndex(1); });
     connect(buscar_, &QComboBox::activated, this, [this](int i) {
         BuscarClick(i);
+        filasMostradas_ = static_cast<size_t>(-1); // same count, other texts
         Mostrar();
         emit TableroCambiado();
     });
@@ -142,6 +170,39 @@ ListaPgnF::ListaPgnF(QWidget* padre) : QWidget(padre, Qt::Window) {
         hide();
     });
     ModoDialogo(false);
+    AplicarIdioma();
+}
+
+void ListaPgnF::AplicarIdioma() {
+    for (int i = 0; i < 7; ++i) {
+        const QString campo = TextoForma("Pgn", std::to_string(i + 1).c_str(), kCampos[i]);
+        campos_[i]->setText(campo);
+        buscar_->setItemText(i, campo);
+    }
+    // The list is read by the first tag again, so that it lists what the box says.
+    if (buscar_->currentIndex() != 0) {
+        buscar_->setCurrentIndex(0);
+        BuscarClick(0);
+        filasMostradas_ = static_cast<size_t>(-1);
+    }
+    frame2_->setText(TextoForma("Pgn", "8", "Search by"));
+    label3_->setText(TextoForma("Pgn", "9", "Interval (ms):"));
+    const std::string& l = ListaPgn::Label2;
+    const size_t dosPuntos = l.find(':');
+    ListaPgn::Label2 = TextoForma("Pgn", "13", "Game:").toStdString() +
+                       (dosPuntos == std::string::npos ? "" : l.substr(dosPuntos + 1));
+    guardar_->setText(TextoForma("Botones", "Guardar", "Save"));
+    cancelar_->setText(TextoForma("Botones", "Cancelar", "Cancel"));
+    label2_->setText(Texto(ListaPgn::Label2));
+    tituloBase_ = TextoForma("Pgn", "Titulo", "PGN");
+    if (!isVisible()) return;
+    if (!GuardandoPgn) setWindowTitle(tituloBase_ + Texto(ListaPgn::Titulo));
+    Mostrar();
+}
+
+void ListaPgnF::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) AplicarIdioma();
+    QWidget::changeEvent(e);
 }
 
 void ListaPgnF::ModoDialogo(bool dialogo) {
@@ -169,6 +230,7 @@ void ListaPgnF::AbrirComoDialogo() {
     const EtiquetasPgn e = EtiquetasIniciales();
     for (int i = 0; i < 6; ++i) text1_[i]->setText(Texto(e.valor[i]));
     combo1_->setCurrentIndex(0);
+    setWindowTitle(tituloBase_);
     ModoDialogo(true);
     show();
 }
@@ -206,8 +268,10 @@ void ListaPgnF::Mostrar() {
         modelo_->Refrescar();
         filasMostradas_ = ListaPgn::Eventos.size();
     }
+    mostrando_ = true;
     if (ListaPgn::EventosIndice >= 0)
         eventos_->setCurrentIndex(modelo_->index(ListaPgn::EventosIndice));
+    mostrando_ = false;
     label2_->setText(Texto(ListaPgn::Label2));
     cuenta_->setText(Texto(ListaPgn::EtiquetaCuenta));
     if (!GuardandoPgn) {
@@ -223,8 +287,14 @@ void ListaPgnF::Mostrar() {
     if (ListaPgn::PgnMovimientosIndice >= 0 &&
         ListaPgn::PgnMovimientosIndice < movimientos_->count())
         movimientos_->setCurrentRow(ListaPgn::PgnMovimientosIndice);
-    for (int i = 1; i <= 4; ++i) command1_[i]->setEnabled(BotonesNavegacion);
-    command1_[5]->setText(AutoPlay ? "Stop" : "Auto");
+    for (int i = 1; i <= 4; ++i) {
+        command1_[i]->setEnabled(BotonesNavegacion);
+        command1_[i]->setToolTip(TextoForma("Tips", kTips[i], kTipsPorDefecto[i]));
+    }
+    command1_[5]->setToolTip(AutoPlay ? TextoForma("Tips", "23", "Stop")
+                                      : TextoForma("Tips", "22", "Auto"));
+    command1_[5]->setIcon(
+        style()->standardIcon(AutoPlay ? QStyle::SP_MediaStop : QStyle::SP_MediaPlay));
     if (!AutoPlay) autoPlay_.stop();
     mini_->CopiarTablero();
 }

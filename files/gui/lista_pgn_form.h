@@ -27,8 +27,6 @@ public:
     void Abrir(const QString& ruta);
     // After GuardarPartida answered Etiquetas: the seven boxes preset.
     void AbrirComoDialogo();
-    // "Titulo" of section "Pgn" of the language file.
-    void PonerTituloBase(const QString& t) { tituloBase_ = t; }
     TableroMini* Miniatura() const { return mini_; }
 
 signals:
@@ -37,6 +35,7 @@ signals:
     void Cerrado(); // the board went back to the initial position
 
 protected:
+    void changeEvent(QEvent* e) override;
     void closeEvent(QCloseEvent* e) override;
     bool eventFilter(QObject* o, QEvent* e) override;
 
@@ -46,11 +45,14 @@ private:
     void Boton(int elemento);
     void Mostrar();
     void ModoDialogo(bool dialogo);
+    // The texts of the language file, read again at each change of language.
+    void AplicarIdioma();
 
     QComboBox* buscar_;
     QListView* eventos_;
     ModeloLista* modelo_;
-    QLabel *label2_, *cuenta_;
+    QLabel *label2_, *cuenta_, *frame2_, *label3_;
+    QLabel* campos_[7];
     QLineEdit* text1_[6];
     QComboBox *combo1_, *combo2_;
     QPushButton* command1_[6] = {};
@@ -61,6 +63,7 @@ private:
     QTimer timer_, autoPlay_;
     QString tituloBase_ = "PGN";
     size_t filasMostradas_ = 0;
+    bool mostrando_ = false; // the program itself is setting the list's current row
 };
 
 } // namespace qa
