@@ -1,11 +1,17 @@
 #include "board/apariencia.h"
 
+#include "board/textos.h"
+
 #include <QDir>
 
 namespace qa {
 
 bool EsNombreBase(const QString& nombre) {
     return nombre.startsWith(QLatin1Char('('));
+}
+
+QString NombreBase() {
+    return TextoForma("Opciones", "Opcion1", "(Clásica)");
 }
 
 QStringList ActualizarSkins(const QString& nombreBase, const QString& carpetaApariencias) {

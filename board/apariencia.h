@@ -8,6 +8,8 @@ namespace qa {
 
 // Any name beginning with "(" is the built-in set, whatever the language calls it.
 bool EsNombreBase(const QString& nombre);
+// The built-in set's name in the current language.
+QString NombreBase();
 // The built-in name, then the skin folders in lower case, in the order of the folder.
 QStringList ActualizarSkins(const QString& nombreBase, const QString& carpetaApariencias);
 // The folder of a skin, found without regard to case; empty when there is none.

@@ -20,17 +20,12 @@ constexpr int kLista[5] = {0, 2, 3, 1, 5};
 ListaJugadas::ListaJugadas(QWidget* parent) : QPlainTextEdit(parent), menu_(new QMenu(this)) {
     setReadOnly(true);
     setLineWrapMode(QPlainTextEdit::NoWrap);
-    menu_->addAction(TextoForma("Jugadas", "Menu1", "&Copy moves"), this,
-                     &ListaJugadas::CopiarJugadas);
-    menu_->addAction(TextoForma("Jugadas", "Menu2", "&Save as..."), this,
-                     &ListaJugadas::GuardarComo);
-    QMenu* mnuNotacion = menu_->addMenu(TextoForma("Jugadas", "Menu3", "&Notation"));
+    copiar_ = menu_->addAction(QString(), this, &ListaJugadas::CopiarJugadas);
+    guardarComo_ = menu_->addAction(QString(), this, &ListaJugadas::GuardarComo);
+    mnuNotacion_ = menu_->addMenu(QString());
     auto* grupo = new QActionGroup(this);
-    const char* claves[5] = {nullptr, "Menu6", "Menu7", "Menu5", "Menu4"};
-    const char* defectos[5] = {nullptr, "&Spanish algebraic", "&English algebraic", "&Coordinates",
-                               "&Algebraic"};
     for (int check = 1; check <= 4; ++check) {
-        QAction* a = mnuNotacion->addAction(TextoForma("Jugadas", claves[check], defectos[check]));
+        QAction* a = mnuNotacion_->addAction(QString());
         a->setCheckable(true);
         grupo->addAction(a);
         notaciones_[check] = a;
@@ -39,7 +34,24 @@ ListaJugadas::ListaJugadas(QWidget* parent) : QPlainTextEdit(parent), menu_(new 
             emit NotacionElegida(check);
         });
     }
+    AplicarIdioma();
     PonerNotacion(1);
+}
+
+void ListaJugadas::AplicarIdioma() {
+    copiar_->setText(TextoForma("Jugadas", "Menu1", "&Copy moves"));
+    guardarComo_->setText(TextoForma("Jugadas", "Menu2", "&Save as..."));
+    mnuNotacion_->setTitle(TextoForma("Jugadas", "Menu3", "&Notation"));
+    const char* claves[5] = {nullptr, "Menu6", "Menu7", "Menu5", "Menu4"};
+    const char* defectos[5] = {nullptr, "&Spanish algebraic", "&English algebraic", "&Coordinates",
+                               "&Algebraic"};
+    for (int check = 1; check <= 4; ++check)
+        notaciones_[check]->setText(TextoForma("Jugadas", claves[check], defectos[check]));
+}
+
+void ListaJugadas::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) AplicarIdioma();
+    QPlainTextEdit::changeEvent(e);
 }
 
 void ListaJugadas::PonerNotacion(int check) {

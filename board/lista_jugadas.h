@@ -31,10 +31,15 @@ signals:
     void GuardarComo();
 
 protected:
+    void changeEvent(QEvent* e) override;
     void contextMenuEvent(QContextMenuEvent* e) override;
 
 private:
+    // The menu's texts from the language file, again at each change of language.
+    void AplicarIdioma();
     QMenu* menu_;
+    QMenu* mnuNotacion_;
+    QAction *copiar_, *guardarComo_;
     QAction* notaciones_[5] = {};
     int check_ = 1;
     int indice_ = 2;

@@ -121,6 +121,11 @@ void VistaTablero::LetrasNumeros() {
     }
 }
 
+void VistaTablero::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) PonerNombreBase(qa::NombreBase());
+    QWidget::changeEvent(e);
+}
+
 void VistaTablero::paintEvent(QPaintEvent*) {
     QPainter p(this);
     p.setPen(QPen(Qt::black, 2));

@@ -61,6 +61,7 @@ signals:
     void ImagenesCambiadas();
 
 protected:
+    void changeEvent(QEvent* e) override;
     void paintEvent(QPaintEvent* e) override;
 
 private:

@@ -17,7 +17,42 @@
 #include "shell/splash.h"
 #include "shell/ventanas.h"
 
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QTranslator>
+
 namespace qa {
+
+namespace {
+
+// Qt's own dialogs and buttons speak the language of the file; one not in the table keeps
+// Qt's own texts.
+void TraducirQt() {
+    static const std::pair<const char*, const char*> kTabla[] = {{"Español", "es"},
+                                                                 {"English", "en"}};
+    static QTranslator* actual = nullptr;
+    if (actual) {
+        QCoreApplication::removeTranslator(actual);
+        delete actual;
+        actual = nullptr;
+    }
+    const std::size_t barra = FicheroIdioma.find_last_of("/\\");
+    QString nombre = QString::fromStdString(
+        barra == std::string::npos ? FicheroIdioma : FicheroIdioma.substr(barra + 1));
+    nombre.chop(4); // ".lng"
+    for (const auto& [idioma, codigo] : kTabla) {
+        if (nombre.compare(QString::fromUtf8(idioma), Qt::CaseInsensitive) != 0) continue;
+        auto* t = new QTranslator(qApp);
+        if (t->load(QStringLiteral("qt_") + codigo,
+                    QLibraryInfo::path(QLibraryInfo::TranslationsPath)) &&
+            QCoreApplication::installTranslator(t))
+            actual = t;
+        else
+            delete t;
+    }
+}
+
+} // namespace
 
 void Idioma() {
     auto& f = Forms();
@@ -40,6 +75,12 @@ void Idioma() {
     if (f.opciones) f.opciones->AplicarIdioma();
     if (f.ranking) f.ranking->AplicarIdioma();
     if (f.splash) f.splash->AplicarIdioma();
+    TraducirQt();
+    // The forms that read their own texts (the board's, the browsers) read them again now.
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+        QEvent cambio(QEvent::LanguageChange);
+        QCoreApplication::sendEvent(w, &cambio);
+    }
 }
 
 void CambiarIdioma() {

@@ -1,5 +1,7 @@
 #include "shell/opciones.h"
 
+#include "board/apariencia.h"
+
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
@@ -122,7 +124,7 @@ void Opciones::Combo1Click() {
         const std::string antes = TextoSkin();
         ActualizarSkins();
         skinEnCambio_ = true;
-        CargarApariencia(!antes.empty() && antes.front() == '(' ? kNombreBase : antes);
+        CargarApariencia(antes);
         skinEnCambio_ = false;
     }
     PrintPuntuacion();
@@ -130,8 +132,10 @@ void Opciones::Combo1Click() {
 
 void Opciones::ActualizarSkins() {
     namespace fs = std::filesystem;
+    // The skin in use stays chosen: the list is refilled each time the dialog opens.
+    const QString enUso = skinCombo_->currentText();
     skinCombo_->clear();
-    skinCombo_->addItem(kNombreBase);
+    skinCombo_->addItem(NombreBase());
     std::vector<std::string> carpetas;
     std::error_code ec;
     fs::directory_iterator it(RutaReal(DirectorioPrograma + "apariencias\\"), ec);
@@ -139,11 +143,13 @@ void Opciones::ActualizarSkins() {
         if (it->is_directory(ec)) carpetas.push_back(Minusculas(it->path().filename().string()));
     std::sort(carpetas.begin(), carpetas.end());
     for (const auto& c : carpetas) skinCombo_->addItem(Q(c));
+    const int i = EsNombreBase(enUso) ? 0 : skinCombo_->findText(enUso, Qt::MatchFixedString);
+    skinCombo_->setCurrentIndex(std::max(i, 0));
 }
 
 void Opciones::CargarApariencia(const std::string& apariencia) {
     ActualizarSkins();
-    if (apariencia == kNombreBase) {
+    if (EsNombreBase(Q(apariencia))) {
         skinCombo_->setCurrentIndex(0);
         return;
     }

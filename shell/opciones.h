@@ -14,9 +14,6 @@ class QPushButton;
 
 namespace qa {
 
-// The built-in skin, first entry of SkinCombo; names beginning with "(" stand for it.
-inline constexpr const char* kNombreBase = "(Clásica)";
-
 class Opciones : public QDialog {
     Q_OBJECT
 public:

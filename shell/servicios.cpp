@@ -123,6 +123,8 @@ RespuestaDialogo DialogoFichero(int modo, const std::string& titulo, const std::
     QStringList lista;
     for (const auto& [etiqueta, patron] : filtros) lista << Q(NombreFiltro(etiqueta, patron));
     QFileDialog d(Forms().mdi, Q(titulo), Q(RutaReal(dir)));
+    // Qt's own dialog, so that it speaks the program's language and not the desktop's.
+    d.setOption(QFileDialog::DontUseNativeDialog);
     d.setNameFilters(lista);
     if (filtroIndice >= 1 && filtroIndice <= lista.size())
         d.selectNameFilter(lista[filtroIndice - 1]);

@@ -1,5 +1,6 @@
 #include "shell/tablero_programa.h"
 
+#include "board/apariencia.h"
 #include "board/colores.h"
 #include "board/entorno_tablero.h"
 #include "board/lista_jugadas.h"
@@ -98,7 +99,7 @@ void CrearTablero() {
     if (!f.quintarena || T().vista) return;
     auto* vista = new VistaTablero;
     T().vista = vista;
-    vista->PonerNombreBase(QString::fromUtf8(kNombreBase));
+    vista->PonerNombreBase(NombreBase());
     vista->PonerCarpetaApariencias(
         QString::fromStdString(RutaReal(DirectorioPrograma + "apariencias")));
     f.quintarena->PonerTablero(vista);
@@ -200,7 +201,7 @@ void InstalarTablero() {
         VistaTablero* v = T().vista;
         Opciones* op = Forms().opciones;
         if (!v || !op) return;
-        const bool base = nombre == kNombreBase;
+        const bool base = EsNombreBase(QString::fromStdString(nombre));
         if (v->PonerApariencia(QString::fromStdString(nombre)) && !base) {
             // A skin drawn for another square size: offer its size.
             const QSize s = v->TamanoSkin();

@@ -1,6 +1,7 @@
 // The whole program started offscreen in this process and closed again, with real files.
 #include "prueba_programa.h"
 
+#include "board/lista_jugadas.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/texto.h"
@@ -22,6 +23,7 @@
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QLabel>
+#include <QMenu>
 #include <QMenuBar>
 #include <QTimer>
 #include <QToolBar>
@@ -302,6 +304,58 @@ TEST(Programa, EveryLanguageCanBeChosenAndStaysAfterARestart) {
     EXPECT_EQ(Entrada("mnuArchivos")->text().toStdString(), Menu1De(c, "English.lng"));
     ElegirIdiomaYReiniciar("Español", false);
     EXPECT_EQ(Entrada("mnuArchivos")->text().toStdString(), Menu1De(c, "Español.lng"));
+    Forms().mdi->close();
+}
+
+// The texts of the move list's menu, in order, the notation submenu's after it.
+QStringList MenuJugadas() {
+    QStringList textos;
+    for (QAction* a : Forms().jugadas->Lista()->MenuJugadas()->actions()) {
+        textos << a->text();
+        if (a->menu())
+            for (QAction* b : a->menu()->actions()) textos << b->text();
+    }
+    return textos;
+}
+
+QStringList MenuJugadasDe(const Carpeta& c, const std::string& lng) {
+    QStringList textos;
+    for (const char* k : {"Menu1", "Menu2", "Menu3", "Menu6", "Menu7", "Menu5", "Menu4"})
+        textos << QString::fromStdString(LeerIni(c.Ruta(lng), "Jugadas", k));
+    return textos;
+}
+
+TEST(Programa, QtsOwnTextsAndOursFollowTheLanguage) {
+    Carpeta c;
+    Cajas cajas;
+    c.Escribir("Zulu.lng", c.Leer("English.lng")); // a language Qt has no table entry for
+    ASSERT_TRUE(Main({"quintarena"}));
+    auto* skins = Forms().opciones->findChild<QComboBox*>("SkinCombo");
+    ASSERT_TRUE(skins);
+    EXPECT_EQ(MenuJugadas(), MenuJugadasDe(c, "Español.lng"));
+    EXPECT_EQ(skins->itemText(0).toStdString(),
+              LeerIni(c.Ruta("Español.lng"), "Opciones", "Opcion1"));
+    EXPECT_EQ(skins->currentIndex(), 0);
+    auto es = prueba::LeerTextosQt(c.Ruta(), cajas);
+    EXPECT_EQ(es.botones, (QStringList{"&Sí", "&No"}));
+    EXPECT_EQ(es.buscarEn, "Ver en:");
+    EXPECT_EQ(es.nombre, "&Nombre de fichero:");
+    EXPECT_EQ(es.guardar, "&Guardar");
+    EXPECT_TRUE(es.existe.contains("ya existe")) << es.existe.toStdString();
+
+    // Our texts from the new file, Qt's own back to its built-in English; as the user does it,
+    // in the open options dialog.
+    Forms().mdi->Comando("mnuOpciones");
+    auto* idiomas = Forms().opciones->findChild<QComboBox*>("Combo1");
+    idiomas->setCurrentIndex(idiomas->findText("Zulu"));
+    emit idiomas->activated(idiomas->currentIndex());
+    EXPECT_EQ(MenuJugadas(), MenuJugadasDe(c, "Zulu.lng"));
+    EXPECT_EQ(skins->itemText(0).toStdString(), LeerIni(c.Ruta("Zulu.lng"), "Opciones", "Opcion1"));
+    EXPECT_EQ(skins->currentIndex(), 0);
+    auto zu = prueba::LeerTextosQt(c.Ruta(), cajas);
+    EXPECT_EQ(zu.botones, (QStringList{"&Yes", "&No"}));
+    EXPECT_EQ(zu.buscarEn, "Look in:");
+    EXPECT_TRUE(zu.existe.contains("already exists")) << zu.existe.toStdString();
     Forms().mdi->close();
 }
 

@@ -5,9 +5,15 @@
 #include "shell/enlaces.h"
 #include "shell/idioma.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialogButtonBox>
 #include <QElapsedTimer>
+#include <QFileDialog>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
 #include <QThread>
+#include <QTimer>
 #include <fstream>
 #include <iterator>
 #include <unistd.h>
@@ -55,6 +61,10 @@ void Carpeta::Ajustar(const std::string& seccion, const std::string& clave,
 }
 
 Cajas::Cajas() {
+    Instalar();
+}
+
+void Cajas::Instalar() {
     qa::FijarPresentadorMensajes([this](const qa::CMensaje& m) {
         vistas.push_back({m.Titulo, m.Texto, m.Icono, m.Botones});
         if (m.Botones != qa::kBotonesSiNo) return 1;
@@ -84,6 +94,52 @@ bool Esperar(const std::function<bool()>& condicion, int milisegundos) {
         QThread::msleep(5);
     }
     return true;
+}
+
+void AlAbrirse(const char* clase, std::function<void(QWidget*)> hacer) {
+    auto* reloj = new QTimer;
+    reloj->setInterval(10);
+    QObject::connect(reloj, &QTimer::timeout, [reloj, clase, hacer] {
+        QWidget* w = QApplication::activeModalWidget();
+        if (!w || !w->isVisible() || !w->inherits(clase)) return;
+        reloj->stop();
+        reloj->deleteLater();
+        hacer(w);
+    });
+    reloj->start();
+}
+
+TextosQt LeerTextosQt(const std::filesystem::path& carpeta, Cajas& cajas) {
+    TextosQt t;
+    qa::FijarPresentadorMensajes(nullptr);
+    AlAbrirse("QMessageBox", [&](QWidget* w) {
+        auto* caja = static_cast<QMessageBox*>(w);
+        for (QAbstractButton* b : caja->buttons()) t.botones << b->text();
+        caja->button(QMessageBox::No)->click();
+    });
+    qa::MostrarMensaje("Quintarena", "14", qa::kIconoPregunta, qa::kBotonesSiNo);
+
+    const std::string existente = (carpeta / "existe.txt").string();
+    std::ofstream(existente) << "x";
+    AlAbrirse("QFileDialog", [&](QWidget* w) {
+        auto* d = static_cast<QFileDialog*>(w);
+        if (auto* l = d->findChild<QLabel*>("lookInLabel")) t.buscarEn = l->text();
+        if (auto* l = d->findChild<QLabel*>("fileNameLabel")) t.nombre = l->text();
+        if (auto* b = d->findChild<QDialogButtonBox*>("buttonBox"))
+            t.guardar = b->button(QDialogButtonBox::Save)
+                            ? b->button(QDialogButtonBox::Save)->text()
+                            : QString();
+        AlAbrirse("QMessageBox", [&](QWidget* caja) {
+            t.existe = static_cast<QMessageBox*>(caja)->text();
+            static_cast<QMessageBox*>(caja)->button(QMessageBox::No)->click();
+        });
+        d->selectFile(QString::fromStdString(existente));
+        QMetaObject::invokeMethod(d, "accept");
+        d->reject();
+    });
+    qa::DialogoFichero(2, "Quintarena", "", {{"Texto", "*.txt"}}, 1, carpeta.string());
+    cajas.Instalar();
+    return t;
 }
 
 } // namespace prueba

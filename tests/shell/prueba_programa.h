@@ -3,6 +3,8 @@
 // started and closed in the test process, offscreen.
 #include "shell/servicios.h"
 
+#include <QStringList>
+#include <QWidget>
 #include <deque>
 #include <filesystem>
 #include <functional>
@@ -36,6 +38,7 @@ class Cajas {
 public:
     Cajas();
     ~Cajas();
+    void Instalar(); // answers the boxes again after real ones were let through
     std::vector<Caja> vistas;
     std::deque<int> respuestas;
     bool Hay(const std::string& texto) const;
@@ -43,5 +46,16 @@ public:
 
 // Runs the event loop until `condicion` holds or the time is up.
 bool Esperar(const std::function<bool()>& condicion, int milisegundos = 5000);
+
+// Waits, inside the next modal loop, for a modal window of class `clase` and hands it to
+// `hacer`, which must close it.
+void AlAbrirse(const char* clase, std::function<void(QWidget*)> hacer);
+
+// What a real Yes/No box and a real save dialog show, each closed again without a choice.
+struct TextosQt {
+    QStringList botones;                       // of the question box
+    QString buscarEn, nombre, guardar, existe; // of the save dialog and its overwrite question
+};
+TextosQt LeerTextosQt(const std::filesystem::path& carpeta, Cajas& cajas);
 
 } // namespace prueba
