@@ -2,7 +2,7 @@
 # Installs the Debian packages the build, the program and the tests need; skips what is there.
 set -euo pipefail
 pkgs=(cmake ninja-build g++ clang libclang-rt-14-dev clang-format
-      qt6-base-dev qt6-svg-dev qt6-multimedia-dev libgl-dev
+      qt6-base-dev qt6-svg-dev qt6-multimedia-dev qt6-translations-l10n libgl-dev
       libgtest-dev libbenchmark-dev xvfb xauth imagemagick fonts-dejavu-core
       sox librsvg2-bin pgn-extract)
 # npm only where no Node.js is present: Debian's package conflicts with other installs of it.
