@@ -24,6 +24,8 @@ struct Enlaces {
     std::function<void()> CargarImagenes, NotacionCambiada, PointClickCambiado, PintarFondos;
     std::function<int()> AlturaFichas; // height of the piece buffers, for the size setting
     std::function<void()> CambiarTamano, RepintarPaleta;
+    // The size box: Enter and its two spin buttons take its text and give what it is to show.
+    std::function<std::string(const std::string&)> TamanoEnter, TamanoMas, TamanoMenos;
     // The options dialog: a skin picked in its list, and its settings accepted.
     std::function<void(const std::string&)> SkinElegida;
     std::function<void()> OpcionesAplicadas;

@@ -15,14 +15,17 @@
 #include "shell/servicios.h"
 #include "shell/ventanas.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QToolButton>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <filesystem>
@@ -37,7 +40,8 @@ QString Q(const std::string& s) {
 
 Opciones::Opciones(QWidget* padre)
     : QDialog(padre), combo1_(new QComboBox), skinCombo_(new QComboBox), text1_(new QLineEdit),
-      label1_(new QLabel), aceptar_(new QPushButton), cancelar_(new QPushButton) {
+      button1_(new QToolButton), button2_(new QToolButton), label1_(new QLabel),
+      aceptar_(new QPushButton), cancelar_(new QPushButton) {
     setObjectName("Opciones");
     combo1_->setObjectName("Combo1");
     skinCombo_->setObjectName("SkinCombo");
@@ -57,7 +61,30 @@ Opciones::Opciones(QWidget* padre)
         rejilla->addWidget(checks_[i], i - 1, 0, 1, 2);
     }
     rejilla->addWidget(label1_, 3, 0);
-    rejilla->addWidget(text1_, 3, 1);
+    auto* tamano = new QHBoxLayout;
+    tamano->setSpacing(0);
+    tamano->addWidget(text1_);
+    auto* flechas = new QVBoxLayout;
+    flechas->setSpacing(0);
+    for (auto [boton, nombre, flecha] : {std::tuple{button1_, "Button1", Qt::UpArrow},
+                                         std::tuple{button2_, "Button2", Qt::DownArrow}}) {
+        boton->setObjectName(nombre);
+        boton->setArrowType(flecha);
+        boton->setFocusPolicy(Qt::NoFocus);
+        boton->setFixedSize(18, 12);
+        flechas->addWidget(boton);
+    }
+    tamano->addLayout(flechas);
+    rejilla->addLayout(tamano, 3, 1);
+    text1_->installEventFilter(this);
+    // A typed number keeps no leading zeros.
+    connect(text1_, &QLineEdit::textChanged, this, [this](const QString& t) {
+        if (t.isEmpty()) return;
+        const QString valor = QString::number(Val(t.toStdString()), 'f', 0);
+        if (valor != t) text1_->setText(valor);
+    });
+    connect(button1_, &QToolButton::clicked, this, [this] { TamanoPor(Enlace().TamanoMas); });
+    connect(button2_, &QToolButton::clicked, this, [this] { TamanoPor(Enlace().TamanoMenos); });
     auto* botones = new QHBoxLayout;
     botones->addStretch();
     botones->addWidget(aceptar_);
@@ -77,6 +104,37 @@ Opciones::Opciones(QWidget* padre)
     });
     setWindowFlag(Qt::WindowContextHelpButtonHint, false);
     resize(320, 300);
+}
+
+void Opciones::TamanoPor(const std::function<std::string(const std::string&)>& regla) {
+    if (regla) FijarTamano(regla(Tamano()));
+}
+
+bool Opciones::eventFilter(QObject* objeto, QEvent* evento) {
+    if (objeto != text1_ || evento->type() != QEvent::KeyPress)
+        return QDialog::eventFilter(objeto, evento);
+    const auto* tecla = static_cast<QKeyEvent*>(evento);
+    switch (tecla->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+        // Taken here, so that it does not accept the dialog.
+        TamanoPor(Enlace().TamanoEnter);
+        return true;
+    case Qt::Key_Backspace:
+    case Qt::Key_Delete:
+    case Qt::Key_Escape:
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return false;
+    default:
+        break;
+    }
+    // Keys that type nothing (arrows, Home, End) move the cursor as usual; of those that type,
+    // only digits pass.
+    const QString texto = tecla->text();
+    if (texto.isEmpty() || (texto.size() == 1 && texto[0] >= '0' && texto[0] <= '9')) return false;
+    QApplication::beep();
+    return true;
 }
 
 void Opciones::AplicarIdioma() {

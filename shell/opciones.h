@@ -2,6 +2,7 @@
 // The options dialog: language (Combo1), skin (SkinCombo), the three board options and the
 // square size (Text1).
 #include <QDialog>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -11,6 +12,7 @@ class QGroupBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QToolButton;
 
 namespace qa {
 
@@ -38,12 +40,18 @@ public:
     // Accepts the dialog: writes its settings, then clamps the size for use.
     void OpcionesAceptar();
 
+protected:
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
+
 private:
     void Combo1Click();
+    // Text1 through one of the board's size rules, the box showing the answer.
+    void TamanoPor(const std::function<std::string(const std::string&)>& regla);
     QComboBox* combo1_;
     QComboBox* skinCombo_;
     QCheckBox* checks_[4] = {};
     QLineEdit* text1_;
+    QToolButton *button1_, *button2_; // up and down
     QLabel* label1_;
     QGroupBox* frames_[4] = {};
     QPushButton* aceptar_;

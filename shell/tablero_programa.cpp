@@ -189,6 +189,16 @@ void InstalarTablero() {
     en.CambiarTamano = [] {
         if (T().vista) T().vista->PonerTamano(TamanoOpciones());
     };
+    // The size box's rules are the board's; without a board the box keeps what it shows.
+    using Regla = QString (VistaTablero::*)(const QString&);
+    auto regla = [](Regla r) {
+        return [r](const std::string& texto) {
+            return T().vista ? (T().vista->*r)(QString::fromStdString(texto)).toStdString() : texto;
+        };
+    };
+    en.TamanoEnter = regla(&VistaTablero::TamanoEnter);
+    en.TamanoMas = regla(&VistaTablero::TamanoMas);
+    en.TamanoMenos = regla(&VistaTablero::TamanoMenos);
     en.SetTableroVisible = [] { return T().set && T().set->isVisible(); };
     en.RepintarPaleta = [] {
         if (T().set) T().set->PaintImagenesSet();

@@ -7,6 +7,7 @@
 #include "core/game_state.h"
 #include "core/move_list.h"
 #include "files/fen.h"
+#include "platform/ini_file.h"
 #include "shell/arranque.h"
 #include "shell/enlaces.h"
 #include "shell/ficheros_programa.h"
@@ -14,6 +15,7 @@
 #include "shell/idioma.h"
 #include "shell/jugadas.h"
 #include "shell/mdi.h"
+#include "shell/opciones.h"
 #include "shell/quintarena.h"
 #include "shell/reloj.h"
 #include "shell/servicios.h"
@@ -21,10 +23,14 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QImage>
+#include <QLineEdit>
 #include <QPixmap>
+#include <QPushButton>
 #include <QScreen>
 #include <QTest>
+#include <QToolButton>
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
@@ -267,6 +273,80 @@ TEST_F(ProgramaConTablero, ColourDialogOpensCentredTheFirstTime) {
     EXPECT_LE(d.manhattanLength(), 4) << d.x() << "," << d.y();
     Captura("programa-colores");
     dialogo->close();
+}
+
+TEST_F(ProgramaConTablero, ChosenSkinIsKeptWhenTheOptionsOpenAgain) {
+    std::filesystem::create_directories(carpeta.Ruta("apariencias"));
+    std::filesystem::copy(std::string(QA_DATOS) + "/apariencias/coral",
+                          carpeta.Ruta("apariencias/coral"),
+                          std::filesystem::copy_options::recursive);
+    Opciones* op = Forms().opciones;
+    auto* skins = op->findChild<QComboBox*>("SkinCombo");
+    ASSERT_TRUE(skins);
+    auto aceptar = [&] {
+        for (auto* b : op->findChildren<QPushButton*>())
+            if (b->text().toStdString() == Texto("Botones", "Aceptar")) b->click();
+    };
+    Forms().mdi->Comando("mnuOpciones");
+    skins->setCurrentIndex(skins->findText("coral"));
+    emit skins->activated(skins->currentIndex());
+    EXPECT_EQ(vista->Apariencia(), "coral");
+    aceptar();
+    EXPECT_FALSE(op->isVisible());
+    for (int vez = 0; vez < 2; ++vez) {
+        Forms().mdi->Comando("mnuOpciones");
+        EXPECT_EQ(skins->currentText(), "coral") << vez;
+        EXPECT_EQ(skins->itemText(0).toStdString(), Texto("Opciones", "Opcion1"));
+        aceptar();
+        EXPECT_EQ(LeerIni(carpeta.Ruta("Default.ini").string(), "Configuracion", "Apariencia"),
+                  "coral");
+    }
+    EXPECT_EQ(vista->Apariencia(), "coral");
+}
+
+TEST_F(ProgramaConTablero, SizeBoxTakesDigitsEnterAndItsSpinButtons) {
+    Opciones* op = Forms().opciones;
+    Forms().mdi->Comando("mnuOpciones");
+    auto* caja = op->findChild<QLineEdit*>("Text1");
+    auto* mas = op->findChild<QToolButton*>("Button1");
+    auto* menos = op->findChild<QToolButton*>("Button2");
+    ASSERT_TRUE(caja && mas && menos);
+    caja->setFocus();
+    caja->selectAll();
+    QTest::keyClicks(caja, "0x7-a0 ");
+    EXPECT_EQ(caja->text(), "70") << "letters and signs are dropped, leading zeros go";
+    QTest::keyClick(caja, Qt::Key_Backspace);
+    QTest::keyClick(caja, Qt::Key_2);
+    EXPECT_EQ(caja->text(), "72");
+    QTest::keyClick(caja, Qt::Key_Return);
+    EXPECT_TRUE(op->isVisible()) << "Enter only resizes";
+    ASSERT_TRUE(prueba::Esperar([&] { return vista->Picture()->AltoCasilla == 72; }));
+
+    for (auto [escrito, tras] : {std::pair{"5", "30"}, std::pair{"999", "100"}}) {
+        caja->selectAll();
+        QTest::keyClicks(caja, escrito);
+        QTest::keyClick(caja, Qt::Key_Enter);
+        EXPECT_EQ(caja->text(), tras);
+    }
+    QTest::mouseClick(menos, Qt::LeftButton);
+    EXPECT_EQ(caja->text(), "99");
+    QTest::mouseClick(mas, Qt::LeftButton);
+    QTest::mouseClick(mas, Qt::LeftButton);
+    EXPECT_EQ(caja->text(), "100") << "no further than 100";
+    ASSERT_TRUE(prueba::Esperar([&] { return vista->Picture()->AltoCasilla == 100; }));
+    op->FijarTamano("30");
+    QTest::mouseClick(menos, Qt::LeftButton);
+    EXPECT_EQ(caja->text(), "30");
+    QTest::mouseClick(mas, Qt::RightButton);
+    EXPECT_EQ(caja->text(), "30") << "the left button only";
+    QTest::mouseClick(mas, Qt::LeftButton);
+    EXPECT_EQ(caja->text(), "31");
+
+    // Typed without Enter and accepted, the size is kept as typed for the next start.
+    caja->selectAll();
+    QTest::keyClicks(caja, "150");
+    op->OpcionesAceptar();
+    EXPECT_EQ(LeerIni(carpeta.Ruta("Default.ini").string(), "Configuracion", "Tamaño"), "150");
 }
 
 } // namespace
