@@ -202,6 +202,17 @@ TEST_F(ProgramaConTablero, PgnCollectionOpensInTheBrowserAndPlaysOnTheBoard) {
     EXPECT_EQ(Tablero[6][3], PeonB);
     Captura("programa-pgn");
 
+    // At its shipped place the browser, its moves included, fits a 1280 x 1024 screen beside
+    // the board.
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->inherits("qa::ListaPgnF")) {
+            const QRect r = w->frameGeometry();
+            EXPECT_LE(r.right(), 1280) << r.right();
+            EXPECT_LE(r.bottom(), 1024) << r.bottom();
+            EXPECT_GE(r.left(), Forms().quintarena->mapToGlobal(QPoint(0, 0)).x() +
+                                    Forms().quintarena->width() - 1);
+        }
+
     Entrada("mnuNuevaPartida")->trigger();
     EXPECT_EQ(Turno, 0) << "no new game while the browser is up";
     for (QWidget* w : QApplication::topLevelWidgets())
