@@ -3,6 +3,7 @@
 #include "board/colores.h"
 #include "board/textos.h"
 
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QIntValidator>
@@ -15,12 +16,14 @@
 namespace qa {
 
 ColorRgb::ColorRgb(QWidget* parent) : QDialog(parent) {
-    setWindowTitle(TextoForma("Color", "Titulo", "Colours"));
+    Rotular(this, "Color", "Titulo", "Colours");
     auto* rejilla = new QGridLayout(this);
     const char* claves[3] = {"Texto1", "Texto2", "Texto3"};
     const char* defectos[3] = {"Red", "Green", "Blue"};
     for (int i = 0; i < 3; ++i) {
-        rejilla->addWidget(new QLabel(TextoForma("Color", claves[i], defectos[i]), this), i, 0);
+        auto* rotulo = new QLabel(this);
+        Rotular(rotulo, "Color", claves[i], defectos[i]);
+        rejilla->addWidget(rotulo, i, 0);
         Scrl_RGB[i] = new QScrollBar(Qt::Horizontal, this);
         Scrl_RGB[i]->setRange(0, 255);
         Scrl_RGB[i]->setMinimumWidth(200);
@@ -36,16 +39,21 @@ ColorRgb::ColorRgb(QWidget* parent) : QDialog(parent) {
         connect(Txt_RGB[i], &QLineEdit::textEdited, this,
                 [this, i](const QString& t) { Scrl_RGB[i]->setValue(t.toInt()); });
     }
-    auto* frame1 = new QGroupBox(TextoForma("Color", "Frame1", "Window background"), this);
+    auto* frame1 = new QGroupBox(this);
+    Rotular(frame1, "Color", "Frame1", "Window background");
     auto* opciones = new QVBoxLayout(frame1);
-    Option1 = new QRadioButton(TextoForma("Color", "Opcion1", "Coloured background"), frame1);
-    Option2 = new QRadioButton(TextoForma("Color", "Opcion2", "System colours"), frame1);
+    Option1 = new QRadioButton(frame1);
+    Option2 = new QRadioButton(frame1);
+    Rotular(Option1, "Color", "Opcion1", "Coloured background");
+    Rotular(Option2, "Color", "Opcion2", "System colours");
     opciones->addWidget(Option1);
     opciones->addWidget(Option2);
     connect(Option1, &QRadioButton::toggled, this, &ColorRgb::Cambio);
     rejilla->addWidget(frame1, 3, 0, 1, 3);
-    Command1 = new QPushButton(TextoForma("Botones", "Aceptar", "OK"), this);
-    Command2 = new QPushButton(TextoForma("Botones", "Cancelar", "Cancel"), this);
+    Command1 = new QPushButton(this);
+    Command2 = new QPushButton(this);
+    Rotular(Command1, "Botones", "Aceptar", "OK");
+    Rotular(Command2, "Botones", "Cancelar", "Cancel");
     rejilla->addWidget(Command1, 4, 1, Qt::AlignRight);
     rejilla->addWidget(Command2, 4, 2);
     connect(Command1, &QPushButton::clicked, this, [this] {
@@ -63,6 +71,11 @@ ColorRgb::ColorRgb(QWidget* parent) : QDialog(parent) {
         reject();
     });
     RegistrarFormulario(this, 0);
+}
+
+void ColorRgb::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) Rotulos(this);
+    QDialog::changeEvent(e);
 }
 
 void ColorRgb::showEvent(QShowEvent* e) {

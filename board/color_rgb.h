@@ -28,6 +28,7 @@ signals:
     void Cancelado();
 
 protected:
+    void changeEvent(QEvent* e) override;
     void showEvent(QShowEvent* e) override;
 
 private:

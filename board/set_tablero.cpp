@@ -10,6 +10,7 @@
 #include "core/move_list.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLineEdit>
@@ -29,7 +30,7 @@ constexpr int kPaleta[10] = {1, 2, 3, 4, 5, 7, 8, 9, 10, 11};
 } // namespace
 
 SetTableroF::SetTableroF(PicBuffer& tablero, QWidget* parent) : QDialog(parent), tablero_(tablero) {
-    setWindowTitle(TextoForma("SetTablero", "Titulo", "Set up position"));
+    Rotular(this, "SetTablero", "Titulo", "Set up position");
     auto* rejilla = new QGridLayout(this);
     auto* paleta = new QGridLayout();
     for (int i = 0; i < 10; ++i) {
@@ -42,23 +43,27 @@ SetTableroF::SetTableroF(PicBuffer& tablero, QWidget* parent) : QDialog(parent),
     }
     rejilla->addLayout(paleta, 0, 0, 1, 2);
 
-    auto* frame1 = new QGroupBox(TextoForma("SetTablero", "Frame1", "Side to move"), this);
+    auto* frame1 = new QGroupBox(this);
+    Rotular(frame1, "SetTablero", "Frame1", "Side to move");
     auto* turno = new QVBoxLayout(frame1);
-    Option1 = new QRadioButton(TextoForma("SetTablero", "Option1", "White to move"), frame1);
-    Option2 = new QRadioButton(TextoForma("SetTablero", "Option2", "Black to move"), frame1);
+    Option1 = new QRadioButton(frame1);
+    Option2 = new QRadioButton(frame1);
+    Rotular(Option1, "SetTablero", "Option1", "White to move");
+    Rotular(Option2, "SetTablero", "Option2", "Black to move");
     Option1->setChecked(true);
     turno->addWidget(Option1);
     turno->addWidget(Option2);
     rejilla->addWidget(frame1, 1, 0);
 
-    auto* frame2 =
-        new QGroupBox(TextoForma("SetTablero", "Frame2", "Castling and en passant"), this);
+    auto* frame2 = new QGroupBox(this);
+    Rotular(frame2, "SetTablero", "Frame2", "Castling and en passant");
     auto* derechos = new QGridLayout(frame2);
     const char* defectos[6] = {nullptr,     "White O-O",   "White O-O-O",
                                "Black O-O", "Black O-O-O", "En passant on:"};
     const char* claves[6] = {nullptr, "Check1", "Check2", "Check3", "Check4", "Check5"};
     for (int i = 1; i <= 5; ++i) {
-        Check[i] = new QCheckBox(TextoForma("SetTablero", claves[i], defectos[i]), frame2);
+        Check[i] = new QCheckBox(frame2);
+        Rotular(Check[i], "SetTablero", claves[i], defectos[i]);
         derechos->addWidget(Check[i], i - 1, 0);
     }
     Text1 = new QLineEdit(frame2);
@@ -80,7 +85,8 @@ SetTableroF::SetTableroF(PicBuffer& tablero, QWidget* parent) : QDialog(parent),
                                  {"Botones", "Aceptar", "OK"},
                                  {"Botones", "Cancelar", "Cancel"}};
     for (int i = 1; i <= 4; ++i) {
-        Command[i] = new QPushButton(TextoForma(botones[i][0], botones[i][1], botones[i][2]), this);
+        Command[i] = new QPushButton(this);
+        Rotular(Command[i], botones[i][0], botones[i][1], botones[i][2]);
         rejilla->addWidget(Command[i], 2 + (i - 1) / 2, (i - 1) % 2);
     }
     connect(Command[1], &QPushButton::clicked, this, &SetTableroF::PosicionInicial);
@@ -103,6 +109,11 @@ void SetTableroF::PaintImagenesSet() {
         pintor.end();
         p->PonerImagen(img);
     }
+}
+
+void SetTableroF::changeEvent(QEvent* e) {
+    if (e->type() == QEvent::LanguageChange) Rotulos(this);
+    QDialog::changeEvent(e);
 }
 
 void SetTableroF::showEvent(QShowEvent* e) {

@@ -30,6 +30,7 @@ public:
     QPushButton* Command[5] = {}; // 1 start position, 2 clear, 3 accept, 4 cancel
 
 protected:
+    void changeEvent(QEvent* e) override;
     void showEvent(QShowEvent* e) override;
     void hideEvent(QHideEvent* e) override;
 

@@ -286,6 +286,32 @@ TEST_F(ProgramaConTablero, ColourDialogOpensCentredTheFirstTime) {
     dialogo->close();
 }
 
+TEST_F(ProgramaConTablero, OpenDialogsTakeANewLanguage) {
+    Entrada("mnuSetTablero")->trigger();
+    Entrada("mnuRgb")->trigger();
+    QWidget* set = nullptr;
+    QWidget* color = nullptr;
+    for (QWidget* w : QApplication::topLevelWidgets()) {
+        if (w->inherits("qa::SetTableroF")) set = w;
+        if (w->inherits("qa::ColorRgb")) color = w;
+    }
+    ASSERT_TRUE(set && color);
+    for (const char* fichero : {"English.lng", "Español.lng"}) {
+        FijarIdioma(fichero);
+        Idioma();
+        const std::string lng = carpeta.Ruta(fichero).string();
+        EXPECT_EQ(set->windowTitle().toStdString(), LeerIni(lng, "SetTablero", "Titulo"));
+        EXPECT_EQ(color->windowTitle().toStdString(), LeerIni(lng, "Color", "Titulo"));
+        for (QWidget* forma : {set, color}) {
+            QStringList botones;
+            for (auto* b : forma->findChildren<QPushButton*>()) botones << b->text();
+            EXPECT_TRUE(
+                botones.contains(QString::fromStdString(LeerIni(lng, "Botones", "Cancelar"))))
+                << fichero << botones.join(",").toStdString();
+        }
+    }
+}
+
 TEST_F(ProgramaConTablero, ChosenSkinIsKeptWhenTheOptionsOpenAgain) {
     std::filesystem::create_directories(carpeta.Ruta("apariencias"));
     std::filesystem::copy(std::string(QA_DATOS) + "/apariencias/coral",
