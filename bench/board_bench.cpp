@@ -1,6 +1,6 @@
 // One drag step at 60-pixel squares: the board copied back, the piece drawn at the cursor, the
 // legality probe and the cursor, as each mouse move of a drag does them. Target: under 2 ms.
-#include "board/entorno_tablero.h"
+#include "board/dibujo_tablero.h"
 #include "board/partida_local.h"
 #include "board/vista_tablero.h"
 
@@ -15,8 +15,8 @@ using namespace Variables;
 
 void PasoDeArrastre(benchmark::State& estado) {
     qa::VistaTablero vista;
-    qa::EntornoTablero entorno(vista);
-    InstalarEntorno(&entorno);
+    qa::DibujoTablero dibujo(vista);
+    InstalarDibujo(&dibujo);
     vista.PonerTamano(60, false);
     vista.Redimensionar();
     qa::PicBuffer& pic = *vista.Picture();
@@ -31,7 +31,7 @@ void PasoDeArrastre(benchmark::State& estado) {
         benchmark::DoNotOptimize(pic.Imagen().constBits());
     }
     pic.DragDrop(3 * pic.AnchoCasilla + medio, 6 * pic.AltoCasilla + medio);
-    InstalarEntorno(nullptr);
+    InstalarDibujo(nullptr);
 }
 BENCHMARK(PasoDeArrastre)->Unit(benchmark::kMicrosecond);
 

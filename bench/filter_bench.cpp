@@ -23,13 +23,7 @@ std::string Sq(int c, int f) {
 bool Probar(const std::string& o, const std::string& d) {
     int32_t copia[9][9];
     std::memcpy(copia, Tablero, sizeof copia); // a probed en passant takes the victim off
-    Origen = o;
-    Destino = d;
-    SoloProbar = true;
-    FiltroMovimiento();
-    SoloProbar = false;
-    bool legal = MovimientoValido;
-    MovimientoAnulado();
+    const bool legal = ProbarJugada(o, d);
     std::memcpy(Tablero, copia, sizeof copia);
     return legal;
 }

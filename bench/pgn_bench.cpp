@@ -5,8 +5,8 @@
 //
 //   bench/pgn_bench [FILE [MB]]   makes FILE (default /tmp/qa-bench.pgn) of
 //                                 MB megabytes (default 220) if it is missing
-#include "core/environment.h"
 #include "core/game_state.h"
+#include "core/recorder.h"
 #include "files/pgn_browser.h"
 #include "files/pgn_moves.h"
 #include "files/pgn_scanner.h"
@@ -70,7 +70,7 @@ int main(int argc, char** argv) {
     const std::string ruta = argc > 1 ? argv[1] : "/tmp/qa-bench.pgn";
     const long mb = argc > 2 ? std::atol(argv[2]) : 220;
     EntornoRegistro entorno;
-    InstalarEntorno(&entorno);
+    InstalarRegistro(&entorno);
 
     if (!std::filesystem::exists(ruta) ||
         std::filesystem::file_size(ruta) < static_cast<uintmax_t>(mb) << 20) {
@@ -171,6 +171,6 @@ int main(int argc, char** argv) {
                     nExtract, tExtract, tam / 1e6 / tExtract, tExtract / mejor);
     else
         std::printf("pgn-extract not found (Debian package pgn-extract)\n");
-    InstalarEntorno(nullptr);
+    InstalarRegistro(nullptr);
     return 0;
 }

@@ -43,13 +43,7 @@ bool Forma(int32_t p, int dc, int df) {
 bool Probar(int c, int f, int c2, int f2) {
     int32_t copia[9][9];
     std::memcpy(copia, Tablero, sizeof copia); // a probed en passant takes the victim off
-    Origen = Sq(c, f);
-    Destino = Sq(c2, f2);
-    SoloProbar = true;
-    FiltroMovimiento();
-    SoloProbar = false;
-    const bool legal = MovimientoValido;
-    MovimientoAnulado();
+    const bool legal = ProbarJugada(Sq(c, f), Sq(c2, f2));
     std::memcpy(Tablero, copia, sizeof copia);
     return legal;
 }

@@ -2,7 +2,7 @@
 // lives in the program's own window this is where it is looked at and photographed.
 //   board-demo [--size N] [--skin NAME] [--flip] [--clicks] [--lines] [--fen LINE]
 //              [--moves "5254 5755 ..."] [--setup] [--grab FILE] [--wait MS]
-#include "board/entorno_tablero.h"
+#include "board/dibujo_tablero.h"
 #include "board/lista_jugadas.h"
 #include "board/partida_local.h"
 #include "board/set_tablero.h"
@@ -11,6 +11,7 @@
 #include "core/game_state.h"
 #include "core/local_move.h"
 #include "core/move_list.h"
+#include "core/recorder.h"
 #include "core/takeback.h"
 #include "files/fen.h"
 #include "platform/programa.h"
@@ -31,8 +32,8 @@ namespace {
 
 using namespace Variables;
 
-// Messages and sounds of the program, as far as a demo needs them.
-class EntornoDemo : public Entorno {
+// Messages and sounds of the program, as far as a demo needs them; the rest is recorded.
+class EntornoDemo : public EntornoRegistro {
 public:
     void MostrarMensaje(const std::string& titulo, const std::string& texto, int, int,
                         int) override {
@@ -84,9 +85,10 @@ int main(int argc, char** argv) {
     ventana.setCentralWidget(centro);
 
     EntornoDemo resto;
-    qa::EntornoTablero entorno(*vista, &resto);
-    entorno.PonerListaJugadas(lista);
-    InstalarEntorno(&entorno);
+    qa::DibujoTablero dibujo(*vista);
+    dibujo.PonerListaJugadas(lista);
+    InstalarRegistro(&resto);
+    InstalarDibujo(&dibujo);
     auto* set = new qa::SetTableroF(*vista->Picture(), &ventana);
     QObject::connect(vista, &qa::VistaTablero::ImagenesCambiadas, set,
                      &qa::SetTableroF::PaintImagenesSet);
@@ -155,6 +157,6 @@ int main(int argc, char** argv) {
             set->move(ventana.geometry().right() - set->width(), ventana.geometry().top() + 40);
         });
     const int r = app.exec();
-    InstalarEntorno(nullptr);
+    InstalarRegistro(nullptr);
     return r;
 }

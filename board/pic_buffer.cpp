@@ -129,7 +129,7 @@ void PicBuffer::DibujarMovimientoPedido() {
 
 void PicBuffer::Marco(int colOrigen, int filaOrigen, int colDestino, int filaDestino) {
     if (!marcos || Cargando) return;
-    if (entorno().ListaPgnVisible() || Jugadas::List1.empty() || MarcoActivo) return;
+    if (listas().ListaPgnVisible() || Jugadas::List1.empty() || MarcoActivo) return;
     // The frames are kept as squares, so with zeros (after a resize) they already stand right.
     if (colOrigen == 0 && filaOrigen == 0 && colDestino == 0 && filaDestino == 0) return;
     if (!EnCasilla(colOrigen) || !EnCasilla(filaOrigen) || !EnCasilla(colDestino) ||
@@ -202,6 +202,28 @@ void PicBuffer::RedibujarTablero() {
     if (fondo_.isNull()) return;
     buffer_ = fondo_.copy();
     PaintFichas();
+    // While a file loads its notice stays over whatever the loading draws.
+    if (!Cargando) aviso_.clear();
+    PintarAviso();
+}
+
+void PicBuffer::AvisoCargando(const QString& texto) {
+    aviso_ = texto;
+    if (fondo_.isNull()) return;
+    buffer_ = fondo_.copy();
+    PintarAviso();
+}
+
+void PicBuffer::PintarAviso() {
+    if (aviso_.isEmpty()) return;
+    QPainter p(&buffer_);
+    QFont letra = font();
+    letra.setPointSize(16);
+    p.setFont(letra);
+    p.setPen(Qt::black);
+    p.drawText(buffer_.rect(), Qt::AlignCenter, aviso_);
+    p.end();
+    update();
 }
 
 void PicBuffer::RestaurarArrastre() {

@@ -50,6 +50,9 @@ public:
     void QuitarFichaAlPaso(int col, int fila);
     void RedibujarTorreEnroque();
     void RedibujarTablero(); // also ImprimeFichas of the set-up
+    // The empty board with `texto` in its middle; it stays over the repaints while Cargando.
+    void AvisoCargando(const QString& texto);
+    const QString& Aviso() const { return aviso_; }
     void OcultarRey() { rey_.visible = false, update(); }
     // The promotion form hides the piece under the cursor while it asks.
     void RestaurarArrastre();
@@ -92,19 +95,23 @@ private:
     void CuadroDesdeFondo(int col, int fila);        // screen square
     void PintarPieza(int codigo, int col, int fila); // screen square
     void EncogerTemporales();
-    void Anular(); // BoardTemp(0) back, temporaries shrunk, move state cleared
+    void PintarAviso();
+    class ManoArrastre;
+    class ManoClic;
+    void DevolverTablero(); // BoardTemp(0) back, temporaries shrunk
+    void Anular();          // and the move's state cleared
     void InicioArrastre(int x, int y);
     void Clic();
     void MarcarCasilla(int col, int fila);
     void MouseDownSet(Qt::MouseButton boton);
     bool Probar(int col, int fila); // SoloProbar, board square
-    bool FichaElegible(int32_t codigo) const;
     void PonerCursor(int forma);
 
     std::shared_ptr<const JuegoFichas> skin_;
     JuegoFichas r_;
     QImage buffer_, fondo_;
     QImage boardTemp_[2];
+    QString aviso_; // the loading notice over the board
     bool arrastrando_ = false;
     bool dibujoHecho_ = false;
     QPoint marco_[2];

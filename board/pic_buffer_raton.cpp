@@ -57,25 +57,63 @@ void PicBuffer::PonerCursor(int forma) {
     }
 }
 
-bool PicBuffer::FichaElegible(int32_t codigo) const {
-    if (codigo < 1 || codigo > 12) return false;
-    if (!Conectado) return true;
-    return (Turno == 2 && EsNegra(codigo)) || (Turno == 1 && EsBlanca(codigo));
-}
+// The drag's drawing around the drop: the piece under the cursor goes back before the filter,
+// since a castling rook is drawn from inside it; a refusal puts the whole picture back.
+class PicBuffer::ManoArrastre final : public Mano {
+public:
+    explicit ManoArrastre(PicBuffer& p) : p_(p) {}
+    void AntesDelFiltro() override { p_.RestaurarArrastre(); }
+    void TrasFiltro() override {
+        if (MovimientoValido && TipoEnroque == 0) {
+            InvertirMovimiento();
+            p_.RestaurarArrastre();
+        }
+    }
+    void Rehusada() override { p_.DevolverTablero(); }
+    void Aceptada() override {}
+    void Terminada() override { p_.EncogerTemporales(); }
+
+private:
+    PicBuffer& p_;
+};
+
+// The click's drawing: the piece leaves its square only once the move is accepted, and it is
+// drawn before the finish, which then must not draw it again.
+class PicBuffer::ManoClic final : public Mano {
+public:
+    explicit ManoClic(PicBuffer& p) : p_(p) {}
+    void AntesDelFiltro() override {}
+    void TrasFiltro() override {}
+    void Rehusada() override {}
+    void Aceptada() override {
+        p_.CuadroDesdeFondo(ColRaton, FilaRaton);
+        p_.update();
+        InvertirMovimiento();
+        p_.DibujarMovimiento();
+        p_.boardTemp_[1] = p_.buffer_.copy();
+        p_.dibujoHecho_ = true;
+    }
+    void Terminada() override {
+        p_.dibujoHecho_ = false;
+        p_.EncogerTemporales();
+    }
+
+private:
+    PicBuffer& p_;
+};
 
 bool PicBuffer::Probar(int col, int fila) {
-    SoloProbar = true;
-    Destino = Digitos(col, fila);
-    FiltroMovimiento();
-    Destino.clear();
-    SoloProbar = false;
-    return MovimientoValido;
+    return ProbarDestino(Digitos(col, fila));
 }
 
-void PicBuffer::Anular() {
+void PicBuffer::DevolverTablero() {
     if (boardTemp_[0].size() == buffer_.size()) buffer_ = boardTemp_[0].copy();
     EncogerTemporales();
     update();
+}
+
+void PicBuffer::Anular() {
+    DevolverTablero();
     MovimientoAnulado();
 }
 
@@ -152,21 +190,8 @@ void PicBuffer::DragDrop(int x, int y) {
         return;
     }
     if (Origen.empty()) return;
-    Destino = Digitos(c, f);
-    // The piece under the cursor goes first: a castling rook is drawn from inside the filter.
-    RestaurarArrastre();
-    FiltroMovimiento();
-    if (MovimientoValido && TipoEnroque == 0) {
-        InvertirMovimiento();
-        RestaurarArrastre();
-    }
-    ReparacionAlPaso();
-    if (!MovimientoValido) {
-        Anular();
-        return;
-    }
-    FinComun();
-    EncogerTemporales();
+    ManoArrastre mano(*this);
+    Soltar(Digitos(c, f), &mano);
 }
 
 void PicBuffer::MarcarCasilla(int col, int fila) {
@@ -193,23 +218,8 @@ void PicBuffer::Clic() {
         if (marcador_.visible) Origen = Digitos(c, f);
         return;
     }
-    Destino = Digitos(c, f);
-    FiltroMovimiento();
-    ReparacionAlPaso();
-    if (MovimientoValido) {
-        CuadroDesdeFondo(ColRaton, FilaRaton);
-        update();
-        InvertirMovimiento();
-        DibujarMovimiento();
-        boardTemp_[1] = buffer_.copy();
-        // The common finish would draw the move again, and for castling on a turned board
-        // in the wrong place: it has been drawn.
-        dibujoHecho_ = true;
-        FinComun();
-        dibujoHecho_ = false;
-        EncogerTemporales();
-    }
-    MovimientoAnulado();
+    ManoClic mano(*this);
+    Soltar(Digitos(c, f), &mano);
 }
 
 void PicBuffer::MouseMove(Qt::MouseButtons botones, int x, int y) {

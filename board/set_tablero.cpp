@@ -166,7 +166,7 @@ void SetTableroF::AlPaso() {
 void SetTableroF::Aceptar() {
     if (Text1->text().isEmpty()) Check[5]->setChecked(false);
     TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = false;
-    entorno().ReiniciarRelojes();
+    dialogos().ReiniciarRelojes();
     Jugadas::Vaciar();
     VariablesCero();
     MovimientoAnulado();

@@ -173,7 +173,7 @@ bool VistaTablero::PonerApariencia(const QString& nombre) {
         apariencia_ = nombreBase_;
         Redimensionar();
         emit AparienciaCambiada(nombreBase_);
-        entorno().MostrarMensaje("Quintarena", "25", 64, 0, 0);
+        dialogos().MostrarMensaje("Quintarena", "25", 64, 0, 0);
         return false;
     }
     pic_->PonerSkin(std::move(skin));

@@ -1,39 +1,59 @@
 #include "core/environment.h"
 
-#include "core/promotion.h"
+#include "core/peer.h"
+#include "core/recorder.h"
 
 namespace {
+
 EntornoRegistro& registroPorDefecto() {
     static EntornoRegistro r;
     return r;
 }
-Entorno* actual = nullptr;
+
+EntornoDibujo* dibujo_ = nullptr;
+EntornoDialogos* dialogos_ = nullptr;
+EntornoMotor* motor_ = nullptr;
+EntornoListas* listas_ = nullptr;
+EntornoRed* red_ = nullptr;
+
 } // namespace
 
-Entorno& entorno() {
-    return actual ? *actual : registroPorDefecto();
+EntornoDibujo& dibujo() {
+    return dibujo_ ? *dibujo_ : registroPorDefecto();
 }
-void InstalarEntorno(Entorno* e) {
-    actual = e;
+EntornoDialogos& dialogos() {
+    return dialogos_ ? *dialogos_ : registroPorDefecto();
 }
-
-void Entorno::MostrarCoronacion() {
-    Coronacion::Activar();
-    Coronacion::Aceptar();
+EntornoMotor& motor() {
+    return motor_ ? *motor_ : registroPorDefecto();
 }
-void Entorno::MostrarMensaje(const std::string&, const std::string&, int, int, int) {}
-void Entorno::Sonar(int) {}
-void Entorno::SumaDePartidas(int) {}
-
-void EntornoRegistro::MostrarCoronacion() {
-    ++coronacionesMostradas;
-    Coronacion::Activar();
-    if (eleccionCoronacion < 0) return; // closed without a choice
-    if (eleccionCoronacion >= 1) Coronacion::Elegir(eleccionCoronacion);
-    Coronacion::Aceptar();
+EntornoListas& listas() {
+    return listas_ ? *listas_ : registroPorDefecto();
+}
+EntornoRed& red() {
+    return red_ ? *red_ : registroPorDefecto();
 }
 
-void EntornoRegistro::MostrarMensaje(const std::string& titulo, const std::string& texto, int icono,
-                                     int, int) {
-    mensajes.push_back({titulo, texto, icono});
+void InstalarDibujo(EntornoDibujo* e) {
+    dibujo_ = e;
+}
+void InstalarDialogos(EntornoDialogos* e) {
+    dialogos_ = e;
+}
+void InstalarMotor(EntornoMotor* e) {
+    motor_ = e;
+}
+void InstalarListas(EntornoListas* e) {
+    listas_ = e;
+}
+void InstalarRed(EntornoRed* e) {
+    red_ = e;
+}
+
+void InstalarRegistro(EntornoRegistro* r) {
+    InstalarDibujo(r);
+    InstalarDialogos(r);
+    InstalarMotor(r);
+    InstalarListas(r);
+    InstalarRed(r);
 }

@@ -2,6 +2,7 @@
 
 #include "core/environment.h"
 #include "core/game_state.h"
+#include "core/peer.h"
 
 namespace Variables {
 
@@ -18,24 +19,24 @@ void TerminarPartida() {
 void FinPorMate() {
     const bool ganaBlanco = EsBlanca(FichaMovida);
     if (TipoPartida == "R") {
-        if (ColorJugador == "Blancas") entorno().SumaDePartidas(ganaBlanco ? kGanada : kPerdida);
-        if (ColorJugador == "Negras") entorno().SumaDePartidas(ganaBlanco ? kPerdida : kGanada);
+        if (ColorJugador == "Blancas") red().SumaDePartidas(ganaBlanco ? kGanada : kPerdida);
+        if (ColorJugador == "Negras") red().SumaDePartidas(ganaBlanco ? kPerdida : kGanada);
     }
     TerminarPartida();
-    entorno().Sonar(4);
+    dialogos().Sonar(4);
     MovimientoAnulado();
     VariablesCero();
-    if (entorno().CpuVisible()) entorno().DetenerTimersCpu();
-    entorno().MostrarMensaje("Quintarena", ganaBlanco ? "1" : "2", 64, 0, 0);
+    if (motor().CpuVisible()) motor().DetenerTimersCpu();
+    dialogos().MostrarMensaje("Quintarena", ganaBlanco ? "1" : "2", 64, 0, 0);
 }
 
 // No sound and no engine timers stopped here, unlike mate.
 void FinPorAhogado() {
-    if (TipoPartida == "R") entorno().SumaDePartidas(kTablas);
+    if (TipoPartida == "R") red().SumaDePartidas(kTablas);
     TerminarPartida();
     MovimientoAnulado();
     VariablesCero();
-    entorno().MostrarMensaje("Quintarena", "3", 64, 0, 0);
+    dialogos().MostrarMensaje("Quintarena", "3", 64, 0, 0);
 }
 
 } // namespace Variables

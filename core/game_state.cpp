@@ -42,12 +42,12 @@ void VariablesCero() {
     Ataque = Jaque = Mate = Ahogado = false;
     PiezaCoronacion = FichaComidaCoronacion = 0;
     Atacantes.clear();
-    entorno().MarcadorVisible(false);
+    dibujo().MarcadorVisible(false);
     AlPasoFen.clear();
 }
 
 void MovimientoAnulado() {
-    entorno().MarcadorVisible(false);
+    dibujo().MarcadorVisible(false);
     ColRaton = FilaRaton = 0;
     EnroqueIntento = false;
     TipoEnroque = 0;

@@ -1,35 +1,40 @@
 #pragma once
-// What the board does around the filter when a person moves a piece, apart
-// from drawing: who may pick up what, the repair after a refused en passant
-// capture, and the common finish that passes the turn or ends the game.
+// A person's move on this board: the piece dropped on a square, by the mouse, the console tool
+// or a test. One sequence for all: the filter, the repair after a refused en passant capture,
+// and the finish that passes the turn, tells the peer or the engine, and ends the game.
+
+#include "core/move_sequence.h"
 
 #include <cstdint>
 #include <string>
 
 namespace Variables {
 
-// False if the square holds a piece of the side not to move.
-bool NoEsContraria(int col, int fila);
-// True if the square holds a piece of the side to move.
-bool EsFichaPropia(int col, int fila);
-// After the filter: a refused en passant capture puts a piece back, by the
-// mover's colour (a white rook where a black pawn stood: kept as it is);
-// an accepted one clears the victim's square.
-void ReparacionAlPaso();
-void SubComoFicha(const std::string& casilla);
-// The finish of an accepted move, from the redraw on.
-void FinComun();
+// What the hand that drops the piece draws around the sequence; the console and the tests have
+// no picture and pass none.
+class Mano {
+public:
+    virtual ~Mano() = default;
+    virtual void AntesDelFiltro() = 0;
+    virtual void TrasFiltro() = 0; // before the en passant repair
+    virtual void Rehusada() = 0;   // before the move's state is cleared
+    virtual void Aceptada() = 0;   // before the finish
+    virtual void Terminada() = 0;  // after the finish
+};
 
 struct Respuesta {
     enum Tipo { Ignorada, Rehusada, Legal } tipo = Ignorada;
     bool jaque = false, mate = false, ahogado = false;
 };
+
 // A new game for two people at one machine: the reset, the move texts
 // emptied, the initial position, White to move.
 void NuevaPartidaLocal();
 
-// A piece dropped from one square on another in a local game: pick-up rules,
-// the filter, the repair and the common finish, as the board does it.
+// The piece held in Origen dropped on `destino`.
+Respuesta Soltar(const std::string& destino, Mano* mano);
+// A piece picked up from `origen` as the board picks it up, and dropped on `destino`;
+// `pieza` is PiezaCoronacion, 0 to ask.
 Respuesta SoltarFicha(const std::string& origen, const std::string& destino, int32_t pieza);
 
 } // namespace Variables

@@ -87,9 +87,9 @@ void Coronar(bool blanco) {
             FichaComidaCoronacion = Tablero[ColDestino][FilaDestino];
         FichaMovida = PiezaCoronacion;
         Tablero[ColDestino][FilaDestino] = FichaMovida;
-        if (entorno().PointClickMarcado()) entorno().MarcadorVisible(!blanco);
+        if (dibujo().PointClickMarcado()) dibujo().MarcadorVisible(!blanco);
     } else {
-        entorno().MostrarCoronacion();
+        dibujo().MostrarCoronacion();
     }
     ReyPropioYVeredicto();
 }
@@ -124,8 +124,8 @@ void Enroque(bool blanco) {
         FilaDestino = fila;
         FichaMovida = torre;
         AplicarMovimiento();
-        if (!entorno().ListaPgnVisible() && !ReproduciendoPartida())
-            entorno().RedibujarTorreEnroque();
+        if (!listas().ListaPgnVisible() && !ReproduciendoPartida())
+            dibujo().RedibujarTorreEnroque();
         derechos[1] = torreA;
         derechos[2] = torreH;
         ColOrigen = 5;
@@ -169,7 +169,7 @@ void BanderasTorre() {
 } // namespace
 
 void InvertirMovimiento() {
-    if (!entorno().TableroInvertido()) return;
+    if (!dibujo().TableroInvertido()) return;
     ColOrigen = 9 - ColOrigen;
     FilaOrigen = 9 - FilaOrigen;
     ColDestino = 9 - ColDestino;

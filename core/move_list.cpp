@@ -14,13 +14,13 @@ void AnotarLista(const std::string& texto, int indice) {
         t += std::string(18, ' ');
     t += texto;
     t += FinLinea;
-    entorno().ListasCambiadas();
+    dibujo().ListasCambiadas();
 }
 
 void Vaciar() {
     for (auto& t : List) t.clear();
     List1.clear();
-    entorno().ListasCambiadas();
+    dibujo().ListasCambiadas();
 }
 
 std::vector<std::string> Lineas(int indice) {

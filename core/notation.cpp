@@ -132,7 +132,7 @@ std::string RegistroDeshacer() {
 }
 
 void EscribirJugada() {
-    const bool mostrar = !entorno().ListaPgnVisible();
+    const bool mostrar = !listas().ListaPgnVisible();
     if (!MedioTurno) ++NumeroJugada;
     if (mostrar) {
         Jugadas::List[4] += std::to_string(ColOrigen) + std::to_string(FilaOrigen) +

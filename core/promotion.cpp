@@ -18,7 +18,7 @@ void Activar() {
     for (int i = 1; i <= 4; ++i) ColorCaja[i] = ColorNoElegido;
     ColorCaja[1] = ColorElegido;
     InvertirMovimiento();
-    entorno().MarcadorVisible(false);
+    dibujo().MarcadorVisible(false);
 }
 
 void Elegir(int indice) {

@@ -76,7 +76,7 @@ void Deshacer(const std::string& s) {
         return;
     }
     BorrarUltimaJugada();
-    entorno().RedibujarTablero();
+    dibujo().RedibujarTablero();
 }
 
 } // namespace
@@ -121,9 +121,9 @@ void BorrarUltimaJugada() {
     } else {
         MedioTurno = true;
     }
-    entorno().OcultarMarcasUltimaJugada();
+    dibujo().OcultarMarcasUltimaJugada();
     if (!Jugadas::List1.empty()) Jugadas::List1.pop_back();
-    entorno().ListasCambiadas();
+    dibujo().ListasCambiadas();
 }
 
 } // namespace Variables

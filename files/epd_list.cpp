@@ -3,6 +3,7 @@
 #include "core/environment.h"
 #include "core/game_state.h"
 #include "core/move_list.h"
+#include "core/peer.h"
 #include "files/fen.h"
 #include "files/line_reader.h"
 
@@ -20,7 +21,7 @@ void NuevoAceptado() {
     Cargando = false;
     Jugadas::Vaciar();
     PonerFichas();
-    if (!Conectado) entorno().RedibujarTablero();
+    if (!Conectado) dibujo().RedibujarTablero();
     VariablesCero();
     MovimientoAnulado();
     EditandoTablero = false;
@@ -40,8 +41,8 @@ bool LeerEPD(const std::string& ruta) {
         if (LeerFen(PosicionFen)) {
             Eventos.push_back(PosicionFen);
         } else if (Eventos.empty()) {
-            entorno().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
-            if (Conectado) entorno().EnviarMensaje("CancelarEPD");
+            dialogos().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
+            if (Conectado) red().CancelarEpd();
             return true;
         }
     }
@@ -49,9 +50,9 @@ bool LeerEPD(const std::string& ruta) {
     LineasPartida.assign(2, std::string());
     Turno = 0;
     Cargando = VistaEpd = true;
-    entorno().MarcadorVisible(false);
-    entorno().OcultarMarcasUltimaJugada();
-    entorno().AvisoCargando();
+    dibujo().MarcadorVisible(false);
+    dibujo().OcultarMarcasUltimaJugada();
+    dibujo().AvisoCargando(dialogos().Mensaje(69));
     if (!Eventos.empty()) {
         CasillasEpd c;
         EventosClick(0, c);
@@ -83,7 +84,7 @@ bool EventosDblClick(int32_t i) {
 
 void Cerrar() {
     if (Conectado && !EpdEnviado) {
-        entorno().EnviarMensaje("CancelarEPD");
+        red().CancelarEpd();
         CancelarEPD();
     }
     if (!Conectado && !EpdEnviado) CancelarEPD();
@@ -94,8 +95,8 @@ void Cerrar() {
 
 void CancelarEPD() {
     NuevoAceptado();
-    entorno().RedibujarTablero();
-    entorno().MostrarVentanas();
+    dibujo().RedibujarTablero();
+    listas().MostrarVentanas();
 }
 
 } // namespace FEpd

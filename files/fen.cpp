@@ -4,6 +4,7 @@
 #include "core/game_state.h"
 #include "core/move_list.h"
 #include "core/notation.h"
+#include "core/peer.h"
 
 #include <cctype>
 #include <vector>
@@ -185,11 +186,11 @@ bool AbrirEpd() {
     TipoPartida.clear();
     ColorJugador.clear();
     Turno = 0;
-    if (entorno().ListaPgnVisible()) entorno().CerrarListaPgn();
+    if (listas().ListaPgnVisible()) listas().CerrarListaPgn();
     Jugadas::Vaciar();
     VariablesCero();
     MovimientoAnulado();
-    entorno().ReiniciarRelojes();
+    dialogos().ReiniciarRelojes();
     TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = true;
     LineasPartida.assign(2, std::string());
     LineaActual = 0;
@@ -197,8 +198,8 @@ bool AbrirEpd() {
     TipoPartida = "A";
     ColorJugador.clear();
     const bool aceptada = LeerFen(PosicionFen);
-    if (Conectado) Turno = static_cast<int16_t>(entorno().PreguntarColorRed() == 2 ? 2 : 1);
-    entorno().RedibujarTablero();
+    if (Conectado) Turno = static_cast<int16_t>(red().PreguntarColor() == 2 ? 2 : 1);
+    dibujo().RedibujarTablero();
     if (ColorInicio == 2) {
         // A line for White with no move in it, so Black's first move takes Black's place.
         MedioTurno = false;
@@ -212,7 +213,7 @@ bool AbrirEpd() {
     if (Turno == 2) ColorJugador = "Negras";
     if (Turno != ColorInicio) Turno = 0;
     Cargando = false;
-    if (Conectado) entorno().EnviarPosicionRed();
+    if (Conectado) red().EnviarPosicion();
     DesdePosicion = true;
     if (AlPasoCasilla != 0 && AlPasoPosible) AlPasoCaduca = true;
     return aceptada;

@@ -27,7 +27,7 @@ std::string Tiempo(const std::string& rotulo) {
 
 Guardado Escribir(const std::string& texto) {
     if (!Ficheros::EscribirSeguro(RutaPartida, texto)) return Guardado::Fallo;
-    entorno().MostrarMensaje("Quintarena", "34", kIconoInformacion, 0, 0);
+    dialogos().MostrarMensaje("Quintarena", "34", kIconoInformacion, 0, 0);
     RutaPartida.clear();
     return Guardado::Hecho;
 }
@@ -51,8 +51,8 @@ std::vector<std::pair<std::string, std::string>> FiltrosGuardar() {
 }
 
 std::string TextoQtr() {
-    const std::string b = Tiempo(entorno().TextoReloj(1));
-    const std::string n = Tiempo(entorno().TextoReloj(2));
+    const std::string b = Tiempo(dialogos().TextoReloj(1));
+    const std::string n = Tiempo(dialogos().TextoReloj(2));
     std::string t = b + kFin + n + kFin;
     if (!TipoPartida.empty()) {
         t += TipoPartida + kFin;
@@ -94,8 +94,8 @@ Guardado GuardarPartida(const std::string& ruta) {
     if (EditandoTablero || ruta.empty()) return Guardado::Nada;
     RutaPartida = ruta;
     if (!Ficheros::QuitarSoloLectura(ruta)) {
-        const std::string t = Reemplazar(entorno().Mensaje(28), '$', kFin + ruta + kFin);
-        entorno().MostrarMensaje("Quintarena", t, kIconoInformacion, 0, 0);
+        const std::string t = Reemplazar(dialogos().Mensaje(28), '$', kFin + ruta + kFin);
+        dialogos().MostrarMensaje("Quintarena", t, kIconoInformacion, 0, 0);
         RutaPartida.clear();
         return Guardado::Fallo;
     }

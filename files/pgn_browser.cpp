@@ -3,9 +3,9 @@
 #include "core/check_detection.h"
 #include "core/environment.h"
 #include "core/game_state.h"
-#include "core/local_move.h"
 #include "core/move_filter.h"
 #include "core/move_list.h"
+#include "core/move_sequence.h"
 #include "files/pgn_moves.h"
 #include "files/pgn_scanner.h"
 #include "files/pgn_text.h"
@@ -38,8 +38,8 @@ void JugarHasta(int32_t hasta) {
     PosicionInicial();
     for (int32_t i = 0; i <= hasta && i <= Ultima(); ++i)
         if (!JugarEntradaPgn(static_cast<size_t>(i)))
-            entorno().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
-    entorno().RedibujarTablero();
+            dialogos().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
+    dibujo().RedibujarTablero();
 }
 
 } // namespace
@@ -89,7 +89,7 @@ void CargarPartidaPgn() {
     LeerCabecerasPgn(FicheroPgn);
     if (PgnConFen) return;
     if (TotalPartidas == 0) {
-        entorno().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
+        dialogos().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
     } else {
         LeerMovimientosPgn(FicheroPgn);
         const auto& filas = ListaPgn::PgnMovimientos;
@@ -107,7 +107,7 @@ void CargarPartidaPgn() {
         }
     }
     PosicionPgn = static_cast<int32_t>(ListaPgn::PgnJugadas.size());
-    entorno().RedibujarTablero();
+    dibujo().RedibujarTablero();
 }
 
 void AvanzarPgn() {
@@ -119,8 +119,8 @@ void AvanzarPgn() {
     ++PosicionPgn;
     Seleccionar(PosicionPgn);
     if (!JugarEntradaPgn(static_cast<size_t>(PosicionPgn)))
-        entorno().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
-    entorno().RedibujarTablero();
+        dialogos().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
+    dibujo().RedibujarTablero();
 }
 
 void RetrocederPgn() {
@@ -134,7 +134,7 @@ void IrInicioPgn() {
     PosicionPgn = -1;
     Seleccionar(ListaPgn::PgnMovimientos.empty() ? -1 : 0);
     PosicionInicial();
-    entorno().RedibujarTablero();
+    dibujo().RedibujarTablero();
 }
 
 void IrFinalPgn() {

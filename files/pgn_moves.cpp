@@ -3,8 +3,8 @@
 #include "core/check_detection.h"
 #include "core/environment.h"
 #include "core/game_state.h"
-#include "core/local_move.h"
 #include "core/move_filter.h"
+#include "core/move_sequence.h"
 #include "files/pgn_scanner.h"
 
 namespace Variables {
@@ -44,8 +44,8 @@ void Anotar() {
 }
 
 void Fallo(const std::string& jugada) {
-    entorno().MostrarMensaje("Quintarena", entorno().Mensaje(52) + " " + jugada, kIconoInformacion,
-                             0, 0);
+    dialogos().MostrarMensaje("Quintarena", dialogos().Mensaje(52) + " " + jugada,
+                              kIconoInformacion, 0, 0);
     FallaPgn = true;
 }
 

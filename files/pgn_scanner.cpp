@@ -54,15 +54,15 @@ void AnadirATabla(std::string_view linea) {
 // The selected game starts from a position: its moves are not replayed.
 void CasoFen(std::string_view valor) {
     VariablesCero();
-    entorno().RedibujarTablero();
-    entorno().ReiniciarRelojes();
+    dibujo().RedibujarTablero();
+    dialogos().ReiniciarRelojes();
     TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = true;
     PosicionPgn = -1;
     Turno = 0;
     Jugadas::Vaciar();
     PgnConFen = true;
     LeerFen(std::string(valor));
-    entorno().RedibujarTablero();
+    dibujo().RedibujarTablero();
 }
 
 // True when a "fen" line was met: reading stops.
@@ -135,7 +135,7 @@ void PrimeraPasada(const std::string& ruta) {
     const std::string& c = ListaPgn::EtiquetaCuenta;
     if (c.empty() || c.back() != '.')
         ListaPgn::EtiquetaCuenta +=
-            " " + std::to_string(TotalPartidas) + " " + entorno().Mensaje(50);
+            " " + std::to_string(TotalPartidas) + " " + dialogos().Mensaje(50);
     ListaLeida = true;
 }
 
@@ -193,7 +193,7 @@ void AbrirPgn(const std::string& ruta) {
     ListaPgn::PgnMovimientosIndice = -1;
     for (auto& t : ListaPgn::Text1) t.clear();
     ListaPgn::Combo1.clear();
-    entorno().AvisoCargando();
+    dibujo().AvisoCargando(dialogos().Mensaje(69));
     const size_t barra = ruta.find_last_of("/\\");
     ListaPgn::Titulo = " - " + (barra == std::string::npos ? ruta : ruta.substr(barra + 1));
     ListaPgn::Eventos.clear();

@@ -4,9 +4,10 @@
 #include "core/environment.h"
 #include "core/game_end.h"
 #include "core/game_state.h"
-#include "core/local_move.h"
 #include "core/move_filter.h"
 #include "core/move_list.h"
+#include "core/move_sequence.h"
+#include "core/peer.h"
 #include "files/line_reader.h"
 #include "files/pgn_scanner.h"
 #include "files/pgn_text.h"
@@ -55,7 +56,7 @@ bool LeerTokens(const std::string& ruta, std::vector<std::string>& tokens) {
 }
 
 void PonerRelojCero(int lado) {
-    entorno().PonerTextoReloj(lado, "00:00");
+    dialogos().PonerTextoReloj(lado, "00:00");
 }
 
 void RelojesCero() {
@@ -66,8 +67,9 @@ void RelojesCero() {
 // The clock line of one side: at one machine the time is not kept.
 void LineaReloj(int lado, const std::string& s) {
     if (Conectado) {
-        entorno().PonerTextoReloj(lado, s.substr(0, 2) + ":" + s.substr(2, 2));
-        entorno().EnviarMensaje(std::string(lado == 1 ? "QTR TB " : "QTR TN ") + s);
+        dialogos().PonerTextoReloj(lado, s.substr(0, 2) + ":" + s.substr(2, 2));
+        red().EnviarLineaPartida(lado == 1 ? LineaPartida::RelojBlancas : LineaPartida::RelojNegras,
+                                 s);
     } else {
         PonerRelojCero(lado);
     }
@@ -76,18 +78,18 @@ void LineaReloj(int lado, const std::string& s) {
 void Rehusar() {
     Turno = 0;
     ColorInicio = 0;
-    entorno().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
-    if (Conectado) entorno().EnviarMensaje("QTR ERROR");
+    dialogos().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
+    if (Conectado) red().EnviarErrorPartida();
     LineasPartida.assign(2, std::string());
-    entorno().RedibujarTablero();
+    dibujo().RedibujarTablero();
     Cargando = DesdePosicion = false;
     TipoPartida.clear();
     ColorJugador.clear();
     // The game as far as it played stays on the board and in the lists.
     MovimientoAnulado();
     EditandoTablero = false;
-    if (!entorno().ListaPgnVisible()) entorno().MostrarVentanas();
-    entorno().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
+    if (!listas().ListaPgnVisible()) listas().MostrarVentanas();
+    dialogos().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
     RelojesCero();
 }
 
@@ -96,28 +98,28 @@ void Rehusar() {
 bool AbrirQtr(const std::string& ruta) {
     std::vector<std::string> tokens;
     if (!LeerTokens(ruta, tokens)) {
-        entorno().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
+        dialogos().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
         return false;
     }
-    if (entorno().ListaPgnVisible()) {
+    if (listas().ListaPgnVisible()) {
         FicheroPgn.clear();
-        entorno().CerrarListaPgn();
+        listas().CerrarListaPgn();
     }
     Jugadas::Vaciar();
     VariablesCero();
     MovimientoAnulado();
     Turno = 0;
     PonerFichas();
-    if (Conectado) entorno().EnviarMensaje("QTR Iniciar");
-    entorno().PonerTextoReloj(1, "");
-    entorno().PonerTextoReloj(2, "");
+    if (Conectado) red().EnviarInicioPartida();
+    dialogos().PonerTextoReloj(1, "");
+    dialogos().PonerTextoReloj(2, "");
     LineasPartida.assign(1, std::string());
     for (auto& t : tokens) LineasPartida.push_back(std::move(t));
     LineasPartida.emplace_back(); // the empty entry behind the last line
-    entorno().MarcadorVisible(false);
+    dibujo().MarcadorVisible(false);
     LineaActual = 0;
     ColorInicio = 0;
-    entorno().AvisoCargando();
+    dibujo().AvisoCargando(dialogos().Mensaje(69));
     Cargando = true;
     return true;
 }
@@ -131,17 +133,17 @@ PasoQtr SendQtr() {
     if (s.size() == 1) {
         if (Conectado) {
             TipoPartida = s;
-            entorno().EnviarMensaje("QTR T " + s);
+            red().EnviarLineaPartida(LineaPartida::Tipo, s);
         } else {
             TipoPartida = "A"; // a replay alone has no rating
         }
         return PasoQtr::Sigue;
     }
-    if (s.size() == 4 && entorno().TextoReloj(1).empty()) {
+    if (s.size() == 4 && dialogos().TextoReloj(1).empty()) {
         LineaReloj(1, s);
         return PasoQtr::Sigue;
     }
-    if (s.size() == 4 && entorno().TextoReloj(2).empty()) {
+    if (s.size() == 4 && dialogos().TextoReloj(2).empty()) {
         LineaReloj(2, s);
         return PasoQtr::Sigue;
     }
@@ -157,9 +159,9 @@ PasoQtr SendQtr() {
         Rehusar();
         return PasoQtr::Rehusada;
     }
-    if (Conectado) entorno().EnviarMensaje("QTR M " + s);
+    if (Conectado) red().EnviarLineaPartida(LineaPartida::Jugada, s);
     if (!AlPasoTexto.empty()) SubComoFicha(AlPasoTexto);
-    entorno().DibujarMovimiento();
+    dibujo().DibujarMovimiento();
     if (ColorInicio == 0 && Turno == 1)
         ColorInicio = 1;
     else if (ColorInicio == 1 && Turno == 2)
@@ -177,29 +179,26 @@ PasoQtr SendQtr() {
 }
 
 void TimerRetrasoQtr() {
-    if (!TipoPartida.empty() && Conectado)
-        Turno = static_cast<int16_t>(entorno().PreguntarColorRed());
+    if (!TipoPartida.empty() && Conectado) Turno = static_cast<int16_t>(red().PreguntarColor());
     if (!TipoPartida.empty()) {
         ColorInicio = ColorInicio == 1 ? 2 : 1;
         if (!Conectado) Turno = static_cast<int16_t>(ColorInicio);
         ColorJugador = Turno == 1 ? "Blancas" : Turno == 2 ? "Negras" : "";
         if (Conectado) {
-            entorno().EnviarMensaje(std::string("QTR T ") + (Turno == 1 ? "N" : "B"));
-            if (Turno != ColorInicio) {
-                Turno = 0;
-                entorno().EnviarMensaje("QTR T " + std::to_string(ColorInicio));
-            } else {
-                entorno().EnviarMensaje("QTR T 0");
-            }
+            // The peer takes the other colour, and the move if it is the side to move.
+            const int colorRival = Turno == 1 ? 2 : 1;
+            const int turnoRival = Turno != ColorInicio ? ColorInicio : 0;
+            if (Turno != ColorInicio) Turno = 0;
+            red().EnviarLadoRival(colorRival, turnoRival);
         }
     }
-    if (!entorno().ListaPgnVisible()) entorno().MostrarVentanas();
+    if (!listas().ListaPgnVisible()) listas().MostrarVentanas();
     LineasPartida.assign(2, std::string());
-    if (!Jugadas::List[1].empty() && Conectado) entorno().EnviarMensaje("QTR Terminado");
-    entorno().RedibujarTablero();
+    if (!Jugadas::List[1].empty() && Conectado) red().EnviarFinPartida();
+    dibujo().RedibujarTablero();
     Cargando = false;
     if (Jugadas::List[1].empty()) {
-        entorno().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
+        dialogos().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
         RelojesCero();
     }
 }

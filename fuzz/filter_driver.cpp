@@ -1,10 +1,9 @@
 #include "fuzz/filter_driver.h"
 
-#include "core/environment.h"
 #include "core/game_state.h"
 #include "core/local_move.h"
-#include "core/move_filter.h"
 #include "core/move_list.h"
+#include "core/recorder.h"
 #include "core/takeback.h"
 
 #include <cstdlib>
@@ -43,7 +42,7 @@ void ComprobarBordes() {
 
 void EjecutarEntradaFiltro(const uint8_t* datos, size_t tam) {
     static EntornoRegistro entorno;
-    InstalarEntorno(&entorno);
+    InstalarRegistro(&entorno);
     RestablecerTodo();
     entorno = EntornoRegistro();
     Lector l(datos, tam);
@@ -86,10 +85,7 @@ void EjecutarEntradaFiltro(const uint8_t* datos, size_t tam) {
         }
         case 3: // a probe under a dragged piece
             Origen = Casilla(l);
-            Destino = Casilla(l);
-            SoloProbar = true;
-            FiltroMovimiento();
-            SoloProbar = false;
+            ProbarDestino(Casilla(l));
             if (l.Byte() & 1) MovimientoAnulado();
             break;
         case 4:
@@ -111,5 +107,5 @@ void EjecutarEntradaFiltro(const uint8_t* datos, size_t tam) {
         }
         ComprobarBordes();
     }
-    InstalarEntorno(nullptr);
+    InstalarRegistro(nullptr);
 }

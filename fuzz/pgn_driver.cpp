@@ -1,7 +1,7 @@
 #include "fuzz/pgn_driver.h"
 
-#include "core/environment.h"
 #include "core/game_state.h"
+#include "core/recorder.h"
 #include "files/epd_list.h"
 #include "files/pgn_browser.h"
 #include "files/pgn_moves.h"
@@ -50,7 +50,7 @@ private:
 
 void EjecutarEntradaPgn(const uint8_t* datos, size_t tam) {
     static EntornoRegistro entorno;
-    InstalarEntorno(&entorno);
+    InstalarRegistro(&entorno);
     RestablecerTodo();
     entorno = EntornoRegistro();
     ListaPgn::Descargar();
@@ -104,5 +104,5 @@ void EjecutarEntradaPgn(const uint8_t* datos, size_t tam) {
     ComprobarTablero();
     if (modo & 0x80) ReproducirQtr(f.Ruta());
     ComprobarTablero();
-    InstalarEntorno(nullptr);
+    InstalarRegistro(nullptr);
 }

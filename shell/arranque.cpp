@@ -1,5 +1,7 @@
 #include "shell/arranque.h"
 
+#include "core/environment.h"
+#include "core/game_state.h"
 #include "platform/escritorio.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
@@ -102,7 +104,7 @@ void AbrirLineaDeOrdenes(const std::string& nombre) {
 }
 
 void MostrarPaneles() {
-    if (Cierto(Enlace().ListaPgnVisible)) return;
+    if (listas().ListaPgnVisible()) return;
     for (const auto& p : kPaneles)
         if (Marcada(p.entrada)) MostrarPanel(p.entrada, true);
 }
@@ -177,12 +179,12 @@ bool Main(const std::vector<std::string>& argumentos) {
 bool CerrarMdi() {
     auto& en = Enlace();
     auto& f = Forms();
-    if (Cierto(en.CpuVisible)) Ejecutar(en.CerrarMotores);
+    if (motor().CpuVisible()) Ejecutar(en.CerrarMotores);
     Ejecutar(en.DescargarDLL);
     if (Cierto(en.ConexionCommand1Enabled)) Ejecutar(en.CerrarSockets);
     if (f.opciones && f.opciones->isVisible()) f.opciones->OpcionesAceptar();
-    if (Cierto(en.Conectado)) Ejecutar(en.Desconectar);
-    if (Cierto(en.Conectado)) {
+    if (Variables::Conectado) Ejecutar(en.Desconectar);
+    if (Variables::Conectado) {
         // Nothing is saved yet: the end of the connection brings us back here.
         CierrePendiente = true;
         return false;

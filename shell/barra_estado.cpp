@@ -1,5 +1,6 @@
 #include "shell/barra_estado.h"
 
+#include "core/game_state.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
 #include "shell/idioma.h"
@@ -59,7 +60,7 @@ QString BarraEstado::TextoFecha(QDate fecha) {
 }
 
 QString BarraEstado::TextoConexion() {
-    const bool conectado = Cierto(Enlace().Conectado);
+    const bool conectado = Variables::Conectado;
     std::string t = conectado ? Mensajes[39] : Mensajes[41];
     t += " ";
     if (Enlace().NombreRemoto) t += Enlace().NombreRemoto();
@@ -75,7 +76,7 @@ void BarraEstado::paintEvent(QPaintEvent*) {
     QRect fecha(hora.right() + 5, 1, std::max(70, fontMetrics().horizontalAdvance(dia) + 28),
                 alto - 1);
     QRect conexion(fecha.right() + 5, 1, width() - 1 - (fecha.right() + 5) - 1, alto - 1);
-    const bool conectado = Cierto(Enlace().Conectado);
+    const bool conectado = Variables::Conectado;
 
     Caja(p, hora);
     IconoReloj(p, hora.topLeft() + QPoint(4, (alto - 14) / 2));

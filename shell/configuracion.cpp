@@ -1,5 +1,7 @@
 #include "shell/configuracion.h"
 
+#include "core/environment.h"
+#include "core/game_state.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
@@ -179,7 +181,7 @@ void GuardarOpciones() {
     }
     // The engine form and the PGN browser put the panels away for their time: what stands in
     // the file is the state from before they came up.
-    if (!Cierto(Enlace().ListaPgnVisible) && !Cierto(Enlace().CpuVisible)) {
+    if (!listas().ListaPgnVisible() && !motor().CpuVisible()) {
         Escribir("Configuracion", "Jugadas", Marcada("mnuMovimientos") ? "1" : "0");
         Escribir("Configuracion", "Chat", Marcada("mnuVentanaChat") ? "1" : "0");
         Escribir("Configuracion", "Reloj", Marcada("mnuReloj") ? "1" : "0");

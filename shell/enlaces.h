@@ -14,8 +14,9 @@ struct Enlaces {
     // Loaders of the three file types (Parts on game files and browsers).
     std::function<void(const std::string&)> CargarPgn, AbrirQtr, AbrirEpd;
 
-    // State owned by other forms and by the network layer.
-    std::function<bool()> Conectado, ListaPgnVisible, CpuVisible, SetTableroVisible;
+    // State owned by other forms. Whether a peer is connected is the core's Conectado; whether
+    // the PGN browser or the engine form is up, the core's listas() and motor() say.
+    std::function<bool()> SetTableroVisible;
     std::function<bool()> ConexionCommand1Enabled, ModoEdicion, Cargando;
     std::function<std::string()> NombreRemoto;
 

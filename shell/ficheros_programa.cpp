@@ -40,14 +40,14 @@ struct Temporizadores {
         retraso.setSingleShot(true);
         QObject::connect(&sendQtr, &QTimer::timeout, [this] {
             const PasoQtr paso = SendQtr();
-            entorno().RedibujarTablero();
+            dibujo().RedibujarTablero();
             if (paso == PasoQtr::Sigue) return;
             sendQtr.stop();
             if (paso == PasoQtr::Final) retraso.start();
         });
         QObject::connect(&retraso, &QTimer::timeout, [] {
             TimerRetrasoQtr();
-            entorno().RedibujarTablero();
+            dibujo().RedibujarTablero();
         });
     }
 };
@@ -70,7 +70,7 @@ void AbrirPartidaQtr(const std::string& ruta) {
         Marcar("mnuInvertirTablero", false);
         Forms().mdi->Comando("mnuInvertirTablero");
     }
-    entorno().RedibujarTablero();
+    dibujo().RedibujarTablero();
     Timers().sendQtr.start();
 }
 
@@ -114,9 +114,9 @@ ListaPgnF* FormularioPgn() {
     const bool nueva = !FormaPgn();
     ListaPgnF* f = Navegador(FormaPgn());
     if (nueva) {
-        QObject::connect(f, &ListaPgnF::TableroCambiado, [] { entorno().RedibujarTablero(); });
+        QObject::connect(f, &ListaPgnF::TableroCambiado, [] { dibujo().RedibujarTablero(); });
         QObject::connect(f, &ListaPgnF::Cerrado, [] {
-            entorno().RedibujarTablero();
+            dibujo().RedibujarTablero();
             // The panels it hid come back once it is really gone.
             QTimer::singleShot(0, [] { MostrarVentanas(); });
         });
@@ -143,8 +143,8 @@ void AbrirFicheroEpd(const std::string& ruta) {
     const bool nueva = !FormaEpd();
     EpdF* f = Navegador(FormaEpd());
     if (nueva) {
-        QObject::connect(f, &EpdF::PosicionAbierta, [] { entorno().RedibujarTablero(); });
-        QObject::connect(f, &EpdF::Cerrado, [] { entorno().RedibujarTablero(); });
+        QObject::connect(f, &EpdF::PosicionAbierta, [] { dibujo().RedibujarTablero(); });
+        QObject::connect(f, &EpdF::Cerrado, [] { dibujo().RedibujarTablero(); });
     }
     // A position on show is replaced only when the player agrees.
     if (f->isVisible()) {
@@ -159,8 +159,18 @@ void AbrirFicheroEpd(const std::string& ruta) {
     f->raise();
 }
 
+// The PGN browser for the core: closing it is the form's own close, which puts the board back.
+class ListasPrograma final : public EntornoListas {
+public:
+    bool ListaPgnVisible() override { return FormaPgn() && FormaPgn()->isVisible(); }
+    void CerrarListaPgn() override {
+        if (FormaPgn()) FormaPgn()->close();
+    }
+    void MostrarVentanas() override { qa::MostrarVentanas(); }
+};
+
 void GuardarPartidaComando() {
-    if (Cargando || Cierto(Enlace().CpuVisible)) {
+    if (Cargando || motor().CpuVisible()) {
         MostrarMensaje("Quintarena", "80", kIconoInformacion);
         return;
     }
@@ -214,7 +224,8 @@ void InstalarFicheros() {
     en.AbrirQtr = AbrirPartidaQtr;
     en.CargarPgn = CargarPgn;
     en.AbrirEpd = AbrirFicheroEpd;
-    en.ListaPgnVisible = [] { return FormaPgn() && FormaPgn()->isVisible(); };
+    static ListasPrograma listas;
+    InstalarListas(&listas);
     en.Comandos["mnuGuardarPartida"] = GuardarPartidaComando;
     en.Comandos["mnuGuardarComo"] = GuardarPartidaComando;
     en.Comandos["mnuRgb"] = MostrarColorRgb;

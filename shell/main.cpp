@@ -1,5 +1,6 @@
 #include "platform/senales.h"
 #include "shell/arranque.h"
+#include "shell/entorno_programa.h"
 #include "shell/ficheros_programa.h"
 #include "shell/formularios.h"
 #include "shell/mdi.h"
@@ -19,6 +20,7 @@ int main(int argc, char** argv) {
     qa::AlTerminar([] {
         if (qa::Forms().mdi) qa::Forms().mdi->Descargar();
     });
+    qa::InstalarEntornoPrograma();
     qa::InstalarTablero();
     qa::InstalarFicheros();
     int codigo = 0;

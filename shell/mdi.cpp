@@ -1,5 +1,7 @@
 #include "shell/mdi.h"
 
+#include "core/environment.h"
+#include "core/game_state.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
@@ -111,7 +113,7 @@ void Mdi::FileDrop(const std::string& fichero) {
 
 void Mdi::AbrirFichero(const std::string& ruta) {
     auto& en = Enlace();
-    if (Cierto(en.ModoEdicion) || Cierto(en.CpuVisible) || Cierto(en.Cargando)) return;
+    if (Cierto(en.ModoEdicion) || motor().CpuVisible() || Cierto(en.Cargando)) return;
     std::string nombre = ruta;
     if (nombre.empty()) {
         auto& c = Controles();
@@ -132,7 +134,7 @@ void Mdi::AbrirFichero(const std::string& ruta) {
     if (!ExisteRuta(nombre)) return;
     const std::string bajo = Minusculas(nombre);
     if (TerminaEn(bajo, ".pgn")) {
-        if (!Cierto(en.Conectado) && en.CargarPgn) en.CargarPgn(nombre);
+        if (!Variables::Conectado && en.CargarPgn) en.CargarPgn(nombre);
     } else if (TerminaEn(bajo, ".epd")) {
         if (en.AbrirEpd) en.AbrirEpd(nombre);
     } else if (TerminaEn(bajo, ".qtr")) {
@@ -144,7 +146,7 @@ void Mdi::CambiarPanel(const std::string& entrada, const char* clave) {
     QAction* a = Entrada(entrada);
     // Qt has flipped the check already; while the engine form or the PGN browser holds the
     // panels the toggle does nothing, so put it back.
-    if (Cierto(Enlace().ListaPgnVisible) || Cierto(Enlace().CpuVisible)) {
+    if (listas().ListaPgnVisible() || motor().CpuVisible()) {
         a->setChecked(!a->isChecked());
         return;
     }
@@ -188,7 +190,7 @@ void Mdi::Comando(const std::string& n) {
     } else if (n == "mnuGuararChat" || n == "mnuChatListGuardar") {
         GuardarChat();
     } else if (n == "mnuGuararImagen") {
-        if (Cierto(en.CpuVisible))
+        if (motor().CpuVisible())
             MostrarMensaje("Quintarena", "80", kIconoInformacion);
         else
             GuardarImagen();
@@ -216,7 +218,7 @@ void Mdi::Comando(const std::string& n) {
     } else if (n == "mnuAlgebraicoUsuario0") {
         CambiarNotacion(4);
     } else if (n == "mnuOpciones") {
-        if (Cierto(en.Cargando) || Cierto(en.CpuVisible)) {
+        if (Cierto(en.Cargando) || motor().CpuVisible()) {
             MostrarMensaje("Quintarena", "80", kIconoInformacion);
         } else if (Opciones* op = Forms().opciones) {
             op->ActualizarSkins();

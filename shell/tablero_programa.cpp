@@ -2,11 +2,12 @@
 
 #include "board/apariencia.h"
 #include "board/colores.h"
-#include "board/entorno_tablero.h"
+#include "board/dibujo_tablero.h"
 #include "board/lista_jugadas.h"
 #include "board/partida_local.h"
 #include "board/set_tablero.h"
 #include "board/vista_tablero.h"
+#include "core/environment.h"
 #include "core/game_state.h"
 #include "core/move_list.h"
 #include "core/takeback.h"
@@ -28,7 +29,6 @@
 #include "shell/servicios.h"
 #include "shell/ventanas.h"
 
-#include <QLabel>
 #include <QMdiSubWindow>
 
 namespace qa {
@@ -37,40 +37,10 @@ namespace {
 
 using namespace Variables;
 
-// What the rules ask of the program that is not the board's: boxes, sounds, the other forms.
-class EntornoPrograma : public Entorno {
-public:
-    bool ListaPgnVisible() override { return Cierto(Enlace().ListaPgnVisible); }
-    bool CpuVisible() override { return Cierto(Enlace().CpuVisible); }
-    void MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones,
-                        int extra) override {
-        qa::MostrarMensaje(titulo, texto, icono, botones, extra);
-    }
-    void Sonar(int n) override { qa::Sonar(n); }
-    std::string Mensaje(int n) override {
-        return n >= 1 && n < static_cast<int>(Mensajes.size()) ? Mensajes[n] : std::string();
-    }
-    // The captions of the clock panel: White's time is label 3, Black's label 4.
-    std::string TextoReloj(int lado) override {
-        QLabel* l = Forms().reloj ? Forms().reloj->Label(lado == 2 ? 4 : 3) : nullptr;
-        return l ? l->text().toStdString() : std::string();
-    }
-    void PonerTextoReloj(int lado, const std::string& texto) override {
-        if (QLabel* l = Forms().reloj ? Forms().reloj->Label(lado == 2 ? 4 : 3) : nullptr)
-            l->setText(QString::fromStdString(texto));
-    }
-    void ReiniciarRelojes() override {
-        PonerTextoReloj(1, "00:00");
-        PonerTextoReloj(2, "00:00");
-    }
-    void MostrarVentanas() override { qa::MostrarVentanas(); }
-};
-
 struct Tablero {
     VistaTablero* vista = nullptr;
     SetTableroF* set = nullptr;
-    EntornoPrograma resto;
-    std::unique_ptr<EntornoTablero> entorno;
+    std::unique_ptr<DibujoTablero> dibujo;
 };
 
 Tablero& T() {
@@ -104,15 +74,15 @@ void CrearTablero() {
         QString::fromStdString(RutaReal(DirectorioPrograma + "apariencias")));
     f.quintarena->PonerTablero(vista);
 
-    T().entorno = std::make_unique<EntornoTablero>(*vista, &T().resto);
-    if (f.jugadas) T().entorno->PonerListaJugadas(f.jugadas->Lista());
-    InstalarEntorno(T().entorno.get());
+    T().dibujo = std::make_unique<DibujoTablero>(*vista);
+    if (f.jugadas) T().dibujo->PonerListaJugadas(f.jugadas->Lista());
+    InstalarDibujo(T().dibujo.get());
 
     // The forms go with the main window; the core must not reach a board that is gone.
     QObject::connect(vista, &QObject::destroyed, [] {
-        InstalarEntorno(nullptr);
+        InstalarDibujo(nullptr);
         T().vista = nullptr;
-        T().entorno.reset();
+        T().dibujo.reset();
     });
     T().set = new SetTableroF(*vista->Picture(), f.mdi);
     QObject::connect(T().set, &QObject::destroyed, [] { T().set = nullptr; });
@@ -165,7 +135,7 @@ void CrearTablero() {
 
 // The guards every game command shares, for the game at one machine.
 bool PartidaOcupada() {
-    if (Cierto(Enlace().ListaPgnVisible) || EditandoTablero) return true;
+    if (listas().ListaPgnVisible() || EditandoTablero) return true;
     if (Cargando) {
         MostrarMensaje("Quintarena", "80", kIconoInformacion);
         return true;
@@ -231,9 +201,9 @@ void InstalarTablero() {
         if (!Conectado && Turno != 0) RetrocesoFuncion();
     };
     en.Comandos["mnuSetTablero"] = [] {
-        if (Cierto(Enlace().Conectado)) {
+        if (Variables::Conectado) {
             MostrarMensaje("Quintarena", "83", kIconoInformacion);
-        } else if (Cierto(Enlace().CpuVisible)) {
+        } else if (motor().CpuVisible()) {
             MostrarMensaje("Quintarena", "84", kIconoInformacion);
         } else if (T().set) {
             T().set->show();
@@ -243,7 +213,7 @@ void InstalarTablero() {
     // At one machine a new game is the engine form's with no engine on either side; until
     // that form exists the command gives the same clean board with White to move.
     en.Comandos["mnuNuevaPartida"] = [] {
-        if (PartidaOcupada() || Cierto(Enlace().Conectado) || !T().vista) return;
+        if (PartidaOcupada() || Variables::Conectado || !T().vista) return;
         PartidaLocal(*T().vista->Picture());
         // A new game is seen from White's side.
         if (Marcada("mnuInvertirTablero")) {

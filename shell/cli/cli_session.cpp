@@ -1,10 +1,9 @@
 #include "shell/cli/cli_session.h"
 
-#include "core/environment.h"
 #include "core/game_state.h"
 #include "core/local_move.h"
-#include "core/move_filter.h"
 #include "core/move_list.h"
+#include "core/recorder.h"
 #include "core/takeback.h"
 #include "files/epd_list.h"
 #include "files/fen.h"
@@ -161,11 +160,11 @@ private:
 SesionCli::SesionCli(std::ostream& salida, std::ostream& errores, Traductor traductor)
     : salida_(salida), errores_(errores), traductor_(std::move(traductor)),
       entorno_(new Entorno(errores_, traductor_)) {
-    InstalarEntorno(entorno_);
+    InstalarRegistro(entorno_);
 }
 
 SesionCli::~SesionCli() {
-    InstalarEntorno(nullptr);
+    InstalarRegistro(nullptr);
     delete entorno_;
 }
 
@@ -250,14 +249,7 @@ void SesionCli::Probar(const std::string& arg) {
         salida_ << "error probe needs OODD\n";
         return;
     }
-    Origen = arg.substr(0, 2);
-    Destino = arg.substr(2, 2);
-    SoloProbar = true;
-    FiltroMovimiento();
-    SoloProbar = false;
-    const bool legal = MovimientoValido;
-    MovimientoAnulado();
-    salida_ << (legal ? "legal" : "refused") << '\n';
+    salida_ << (ProbarJugada(arg.substr(0, 2), arg.substr(2, 2)) ? "legal" : "refused") << '\n';
 }
 
 void SesionCli::Obtener(const std::string& nombre) {

@@ -15,9 +15,10 @@ void TableroTest::SetUp() {
     RestablecerTodo();
     vista = std::make_unique<qa::VistaTablero>();
     lista = std::make_unique<qa::ListaJugadas>();
-    entorno = std::make_unique<qa::EntornoTablero>(*vista, &registro);
-    entorno->PonerListaJugadas(lista.get());
-    InstalarEntorno(entorno.get());
+    dibujo = std::make_unique<qa::DibujoTablero>(*vista);
+    dibujo->PonerListaJugadas(lista.get());
+    InstalarRegistro(&registro);
+    InstalarDibujo(dibujo.get());
     vista->PonerTamano(60, false);
     vista->Redimensionar();
     qa::PartidaLocal(*pic());
@@ -26,7 +27,7 @@ void TableroTest::SetUp() {
 }
 
 void TableroTest::TearDown() {
-    InstalarEntorno(nullptr);
+    InstalarRegistro(nullptr);
     vista.reset();
     lista.reset();
     RestablecerTodo();

@@ -1,10 +1,10 @@
 #pragma once
 // A board on screen (offscreen) with its environment installed, and the hand that moves it.
-#include "board/entorno_tablero.h"
+#include "board/dibujo_tablero.h"
 #include "board/lista_jugadas.h"
 #include "board/vista_tablero.h"
 
-#include "core/environment.h"
+#include "core/recorder.h"
 
 #include <QPoint>
 #include <functional>
@@ -32,5 +32,5 @@ protected:
     std::unique_ptr<qa::VistaTablero> vista;
     std::unique_ptr<qa::ListaJugadas> lista;
     EntornoRegistro registro;
-    std::unique_ptr<qa::EntornoTablero> entorno;
+    std::unique_ptr<qa::DibujoTablero> dibujo;
 };

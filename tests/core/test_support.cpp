@@ -1,6 +1,5 @@
 #include "test_support.h"
 
-#include "core/move_filter.h"
 #include "core/move_list.h"
 
 #include <cctype>
@@ -18,13 +17,13 @@ std::string Jugada(const std::string& a) {
 }
 
 void Partida::SetUp() {
-    InstalarEntorno(&entorno);
+    InstalarRegistro(&entorno);
     RestablecerTodo();
 }
 
 void Partida::TearDown() {
     RestablecerTodo();
-    InstalarEntorno(nullptr);
+    InstalarRegistro(nullptr);
 }
 
 void Partida::Nueva() {
@@ -61,14 +60,7 @@ void Partida::Jugar(std::initializer_list<const char*> jugadas) {
 }
 
 bool Partida::Probar(const std::string& a) {
-    Origen = Casilla(a.substr(0, 2));
-    Destino = Casilla(a.substr(2, 2));
-    SoloProbar = true;
-    FiltroMovimiento();
-    SoloProbar = false;
-    bool legal = MovimientoValido;
-    MovimientoAnulado();
-    return legal;
+    return ProbarJugada(Casilla(a.substr(0, 2)), Casilla(a.substr(2, 2)));
 }
 
 int32_t Partida::En(const std::string& a) const {

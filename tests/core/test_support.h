@@ -2,9 +2,9 @@
 // Helpers that let tests speak in squares like "e2" and set up positions from
 // a board diagram, while every move still goes through the real entry points.
 
-#include "core/environment.h"
 #include "core/game_state.h"
 #include "core/local_move.h"
+#include "core/recorder.h"
 
 #include <gtest/gtest.h>
 #include <initializer_list>

@@ -2,8 +2,8 @@
 // would, and tells per file how many games list, how many replay to their
 // last move, and why the others stop. Exit status 1 if a game of a file
 // named with --strict fails to replay fully.
-#include "core/environment.h"
 #include "core/game_state.h"
+#include "core/recorder.h"
 #include "files/pgn_browser.h"
 #include "files/pgn_moves.h"
 #include "files/pgn_scanner.h"
@@ -37,7 +37,7 @@ Resumen Revisar(const std::string& ruta) {
     Resumen r;
     EntornoRegistro registro;
     registro.listaPgnVisible = true;
-    InstalarEntorno(&registro);
+    InstalarRegistro(&registro);
     ListaPgn::Descargar();
     AbrirPgn(ruta);
     CargarPartidaPgn();
@@ -84,7 +84,7 @@ Resumen Revisar(const std::string& ruta) {
         if (r.ejemplos.size() < 5)
             r.ejemplos.push_back("game " + std::to_string(i) + " at '" + culpable + "'");
     }
-    InstalarEntorno(nullptr);
+    InstalarRegistro(nullptr);
     return r;
 }
 

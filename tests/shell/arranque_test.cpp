@@ -2,6 +2,8 @@
 #include "prueba_programa.h"
 
 #include "board/lista_jugadas.h"
+#include "core/game_state.h"
+#include "core/recorder.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/texto.h"
@@ -100,9 +102,8 @@ TEST(Programa, ClosingWhileConnectedWaitsAndSavesOnTheSecondClose) {
     Cajas cajas;
     ASSERT_TRUE(Main({"quintarena"}));
     const std::string antes = c.Leer("Default.ini");
-    bool conectado = true;
+    Variables::Conectado = true;
     int desconexiones = 0;
-    Enlace().Conectado = [&] { return conectado; };
     Enlace().Desconectar = [&] { ++desconexiones; };
     Marcar("mnuReloj", false);
 
@@ -112,7 +113,7 @@ TEST(Programa, ClosingWhileConnectedWaitsAndSavesOnTheSecondClose) {
     EXPECT_EQ(desconexiones, 1);
     EXPECT_EQ(c.Leer("Default.ini"), antes);
 
-    conectado = false; // the network layer, once the link is down
+    Variables::Conectado = false; // the network layer, once the link is down
     EXPECT_TRUE(Forms().mdi->close());
     EXPECT_TRUE(FinPrograma());
     EXPECT_EQ(LeerIni(c.Ruta("Default.ini"), "Configuracion", "Reloj"), "0");
@@ -122,10 +123,10 @@ TEST(Programa, PanelKeysKeepTheirValuesWhileABrowserIsUp) {
     Carpeta c;
     Cajas cajas;
     ASSERT_TRUE(Main({"quintarena"}));
-    bool browser = false;
-    Enlace().ListaPgnVisible = [&] { return browser; };
+    EntornoRegistro browser;
+    InstalarListas(&browser);
     OcultarVentanas(false); // as the PGN browser does when it comes up
-    browser = true;
+    browser.listaPgnVisible = true;
     EXPECT_FALSE(Marcada("mnuMovimientos"));
     EXPECT_FALSE(Forms().chat->isVisible());
     Entrada("mnuReloj")->trigger(); // the toggles do nothing meanwhile

@@ -1,5 +1,6 @@
 #include "prueba_programa.h"
 
+#include "core/recorder.h"
 #include "platform/ini_file.h"
 #include "shell/arranque.h"
 #include "shell/enlaces.h"
@@ -41,6 +42,7 @@ Carpeta::Carpeta() {
 Carpeta::~Carpeta() {
     qa::LiberarFormularios();
     qa::Enlace() = qa::Enlaces{};
+    InstalarRegistro(nullptr); // the core's doors go back to the recorder
     qa::FijarCarpetaPrograma("");
     std::error_code ec;
     fs::remove_all(dir_, ec);

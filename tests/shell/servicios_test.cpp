@@ -1,6 +1,8 @@
 // Common services, settings read into the controls, commands of the menu and the toolbar.
 #include "prueba_programa.h"
 
+#include "core/game_state.h"
+#include "core/recorder.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "shell/arranque.h"
@@ -63,9 +65,10 @@ TEST(BarraEstado, TimeDateAndConnection) {
     EXPECT_EQ(BarraEstado::TextoFecha(QDate(2026, 3, 4)).toStdString(), "04/03/2026");
     Mensajes[39] = "Conectado con";
     Mensajes[41] = "Desconectado";
-    Enlace().Conectado = [] { return true; };
+    Variables::Conectado = true;
     Enlace().NombreRemoto = [] { return std::string("Ana"); };
     EXPECT_EQ(BarraEstado::TextoConexion().toStdString(), "Conectado con Ana");
+    Variables::Conectado = false;
     Enlace() = Enlaces{};
     EXPECT_EQ(BarraEstado::TextoConexion().toStdString(), "Desconectado ");
 }
@@ -164,11 +167,13 @@ TEST_F(Arrancado, PanelTogglesWriteTheirKeysUnlessTheEngineFormIsUp) {
     EXPECT_EQ(LeerIni(c.Ruta("Default.ini"), "Configuracion", "Reloj"), "0");
     Entrada("mnuMostrarRanking")->trigger();
     EXPECT_EQ(LeerIni(c.Ruta("Default.ini"), "Configuracion", "Elo"), "0");
-    Enlace().CpuVisible = [] { return true; };
+    EntornoRegistro motorVisible;
+    motorVisible.cpuVisible = true;
+    InstalarMotor(&motorVisible);
     Entrada("mnuReloj")->trigger();
     EXPECT_FALSE(Marcada("mnuReloj"));
     EXPECT_FALSE(Forms().reloj->isVisible());
-    Enlace().CpuVisible = nullptr;
+    InstalarMotor(nullptr);
     // A panel's close hides it and unchecks its entry.
     Entrada("mnuReloj")->trigger();
     EXPECT_TRUE(Forms().reloj->isVisible());

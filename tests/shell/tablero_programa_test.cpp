@@ -4,12 +4,14 @@
 
 #include "board/lista_jugadas.h"
 #include "board/vista_tablero.h"
+#include "core/environment.h"
 #include "core/game_state.h"
 #include "core/move_list.h"
 #include "files/fen.h"
 #include "platform/ini_file.h"
 #include "shell/arranque.h"
 #include "shell/enlaces.h"
+#include "shell/entorno_programa.h"
 #include "shell/ficheros_programa.h"
 #include "shell/formularios.h"
 #include "shell/idioma.h"
@@ -21,6 +23,7 @@
 #include "shell/servicios.h"
 #include "shell/tablero_programa.h"
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
@@ -49,6 +52,7 @@ protected:
 
     void SetUp() override {
         cajas.respuestas = {kRespuestaNo, kRespuestaNo};
+        InstalarEntornoPrograma();
         InstalarTablero();
         InstalarFicheros();
         ASSERT_TRUE(Main({"quintarena"}));
@@ -95,6 +99,26 @@ protected:
             return r;
         });
     }
+    // A file opened from the menu, as the open dialog answers.
+    void Abrir(const std::string& nombre) {
+        Responder(nombre);
+        Entrada("mnuAbrirPartida")->trigger();
+        FijarPresentadorDialogos(nullptr);
+    }
+    // Two short games in the PGN browser, the first one on the board.
+    void AbrirPgn() {
+        carpeta.Escribir("dos.pgn",
+                         "[Event \"Primera\"]\n[Site \"?\"]\n[Date \"?\"]\n[Round \"1\"]\n"
+                         "[White \"A\"]\n[Black \"B\"]\n[Result \"0-1\"]\n\n"
+                         "1. f3 e5 2. g4 Qh4# 0-1\n\n"
+                         "[Event \"Segunda\"]\n[Site \"?\"]\n[Date \"?\"]\n[Round \"2\"]\n"
+                         "[White \"C\"]\n[Black \"D\"]\n[Result \"1-0\"]\n\n"
+                         "1. e4 e5 2. Bc4 Nc6 3. Qh5 Nf6 4. Qxf7# 1-0\n");
+        Abrir("dos.pgn");
+        ASSERT_TRUE(listas().ListaPgnVisible());
+        ASSERT_TRUE(prueba::Esperar([] { return Tablero[8][4] == DamaN; }));
+    }
+    std::string Aviso() const { return vista->Picture()->Aviso().toStdString(); }
 };
 
 TEST_F(ProgramaConTablero, FoolsMateFromTheMenuToTheMessage) {
@@ -186,19 +210,9 @@ TEST_F(ProgramaConTablero, SavedGameFileReplaysOnTheBoardByItsTimers) {
 }
 
 TEST_F(ProgramaConTablero, PgnCollectionOpensInTheBrowserAndPlaysOnTheBoard) {
-    carpeta.Escribir("dos.pgn", "[Event \"Primera\"]\n[Site \"?\"]\n[Date \"?\"]\n[Round \"1\"]\n"
-                                "[White \"A\"]\n[Black \"B\"]\n[Result \"0-1\"]\n\n"
-                                "1. f3 e5 2. g4 Qh4# 0-1\n\n"
-                                "[Event \"Segunda\"]\n[Site \"?\"]\n[Date \"?\"]\n[Round \"2\"]\n"
-                                "[White \"C\"]\n[Black \"D\"]\n[Result \"1-0\"]\n\n"
-                                "1. e4 e5 2. Bc4 Nc6 3. Qh5 Nf6 4. Qxf7# 1-0\n");
-    Responder("dos.pgn");
-    Entrada("mnuAbrirPartida")->trigger();
-    FijarPresentadorDialogos(nullptr);
-    ASSERT_TRUE(Cierto(Enlace().ListaPgnVisible));
+    AbrirPgn();
     EXPECT_FALSE(Forms().jugadas->isVisible()) << "the browser holds the panels";
     // The first game is read and played to its end.
-    ASSERT_TRUE(prueba::Esperar([] { return Tablero[8][4] == DamaN; }));
     EXPECT_EQ(Tablero[6][3], PeonB);
     Captura("programa-pgn");
 
@@ -217,7 +231,7 @@ TEST_F(ProgramaConTablero, PgnCollectionOpensInTheBrowserAndPlaysOnTheBoard) {
     EXPECT_EQ(Turno, 0) << "no new game while the browser is up";
     for (QWidget* w : QApplication::topLevelWidgets())
         if (w->inherits("qa::ListaPgnF")) w->close();
-    EXPECT_FALSE(Cierto(Enlace().ListaPgnVisible));
+    EXPECT_FALSE(listas().ListaPgnVisible());
     EXPECT_EQ(Tablero[4][8], DamaN) << "the start position is back";
     EXPECT_TRUE(prueba::Esperar([] { return Forms().jugadas->isVisible(); }));
 }
@@ -384,6 +398,52 @@ TEST_F(ProgramaConTablero, SizeBoxTakesDigitsEnterAndItsSpinButtons) {
     QTest::keyClicks(caja, "150");
     op->OpcionesAceptar();
     EXPECT_EQ(LeerIni(carpeta.Ruta("Default.ini").string(), "Configuracion", "Tamaño"), "150");
+}
+
+TEST_F(ProgramaConTablero, GameFileOpenedOverThePgnBrowserPutsItAwayAndReplaysUnderANotice) {
+    AbrirPgn();
+    carpeta.Escribir("partida.qtr", "0000\r\n0000\r\nA\r\n5254\r\n5755\r\n7163\r\n");
+    Abrir("partida.qtr");
+    EXPECT_FALSE(listas().ListaPgnVisible()) << "the browser is closed";
+    ASSERT_TRUE(Cargando);
+    EXPECT_EQ(Aviso(), Mensajes[69]);
+    Captura("programa-qtr-aviso");
+    ASSERT_TRUE(prueba::Esperar([] { return !Cargando; }, 10000));
+    EXPECT_EQ(Aviso(), "");
+    EXPECT_NE(Lista().find("2. Cf3"), std::string::npos) << Lista();
+    EXPECT_FALSE(cajas.Hay(Mensajes[55]));
+    EXPECT_EQ(Turno, 2);
+    EXPECT_TRUE(prueba::Esperar([] { return Forms().jugadas->isVisible(); }));
+    Captura("programa-qtr-tras-pgn");
+}
+
+TEST_F(ProgramaConTablero, PositionFileOpenedOverThePgnBrowser) {
+    AbrirPgn();
+    carpeta.Escribir("pos.epd", "4k3/8/8/8/8/8/8/R3K3 w - - 0 1\n"
+                                "rnbqkbnr/pppppppp/8/8/4P3/8/PPPP1PPP/RNBQKBNR b KQkq e3 0 1\n");
+    Abrir("pos.epd");
+    QWidget* epd = nullptr;
+    for (QWidget* w : QApplication::topLevelWidgets())
+        if (w->inherits("qa::EpdF") && w->isVisible()) epd = w;
+    ASSERT_NE(epd, nullptr);
+    EXPECT_TRUE(Cargando);
+    EXPECT_EQ(Aviso(), Mensajes[69]) << "the main board waits under the notice";
+    Captura("programa-epd-aviso");
+
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(epd));
+    auto* lista = epd->findChild<QAbstractItemView*>();
+    ASSERT_NE(lista, nullptr);
+    const QRect fila = lista->visualRect(lista->model()->index(1, 0));
+    ASSERT_TRUE(fila.isValid());
+    QTest::mouseClick(lista->viewport(), Qt::LeftButton, {}, fila.center());
+    QTest::mouseDClick(lista->viewport(), Qt::LeftButton, {}, fila.center());
+    EXPECT_FALSE(listas().ListaPgnVisible()) << "the browser is closed";
+    EXPECT_FALSE(epd->isVisible());
+    EXPECT_FALSE(Cargando);
+    EXPECT_EQ(Aviso(), "");
+    EXPECT_EQ(Tablero[5][4], PeonB);
+    EXPECT_EQ(Turno, 2);
+    Captura("programa-epd-tras-pgn");
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "board/entorno_tablero.h"
+#include "board/dibujo_tablero.h"
 
 #include "board/coronacion.h"
 #include "board/lista_jugadas.h"
@@ -6,37 +6,37 @@
 
 namespace qa {
 
-EntornoTablero::EntornoTablero(VistaTablero& vista, Entorno* resto)
-    : vista_(vista), resto_(resto) {}
-
-bool EntornoTablero::PointClickMarcado() {
+bool DibujoTablero::PointClickMarcado() {
     return vista_.Picture()->pointClick;
 }
-bool EntornoTablero::TableroInvertido() {
+bool DibujoTablero::TableroInvertido() {
     return vista_.Picture()->invertido;
 }
-void EntornoTablero::RedibujarTorreEnroque() {
+void DibujoTablero::RedibujarTorreEnroque() {
     vista_.Picture()->RedibujarTorreEnroque();
 }
-void EntornoTablero::MarcadorVisible(bool visible) {
+void DibujoTablero::MarcadorVisible(bool visible) {
     vista_.Picture()->MarcadorVisible(visible);
 }
-void EntornoTablero::OcultarMarcasUltimaJugada() {
+void DibujoTablero::OcultarMarcasUltimaJugada() {
     vista_.Picture()->QuitaMarco();
 }
-void EntornoTablero::DibujarMovimiento() {
+void DibujoTablero::DibujarMovimiento() {
     vista_.Picture()->DibujarMovimientoPedido();
 }
-void EntornoTablero::RedibujarTablero() {
+void DibujoTablero::RedibujarTablero() {
     vista_.Picture()->RedibujarTablero();
 }
-void EntornoTablero::QuitarFichaAlPaso(int col, int fila) {
+void DibujoTablero::QuitarFichaAlPaso(int col, int fila) {
     vista_.Picture()->QuitarFichaAlPaso(col, fila);
 }
-void EntornoTablero::ListasCambiadas() {
+void DibujoTablero::ListasCambiadas() {
     if (lista_) lista_->Actualizar();
 }
-void EntornoTablero::MostrarCoronacion() {
+void DibujoTablero::AvisoCargando(const std::string& texto) {
+    vista_.Picture()->AvisoCargando(QString::fromStdString(texto));
+}
+void DibujoTablero::MostrarCoronacion() {
     Coronacion forma(*vista_.Picture(), vista_.window());
     forma.exec();
 }

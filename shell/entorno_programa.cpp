@@ -1,0 +1,82 @@
+#include "shell/entorno_programa.h"
+
+#include "core/environment.h"
+#include "core/peer.h"
+#include "shell/formularios.h"
+#include "shell/idioma.h"
+#include "shell/reloj.h"
+#include "shell/servicios.h"
+
+#include <QLabel>
+
+namespace qa {
+
+namespace {
+
+// Boxes, sounds, the texts of the language and the clock panel.
+class DialogosPrograma final : public EntornoDialogos {
+public:
+    void MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones,
+                        int extra) override {
+        qa::MostrarMensaje(titulo, texto, icono, botones, extra);
+    }
+    void Sonar(int n) override { qa::Sonar(n); }
+    std::string Mensaje(int n) override {
+        return n >= 1 && n < static_cast<int>(Mensajes.size()) ? Mensajes[n] : std::string();
+    }
+    // White's time is label 3 of the clock panel, Black's label 4.
+    std::string TextoReloj(int lado) override {
+        QLabel* l = Etiqueta(lado);
+        return l ? l->text().toStdString() : std::string();
+    }
+    void PonerTextoReloj(int lado, const std::string& texto) override {
+        if (QLabel* l = Etiqueta(lado)) l->setText(QString::fromStdString(texto));
+    }
+    void ReiniciarRelojes() override {
+        PonerTextoReloj(1, "00:00");
+        PonerTextoReloj(2, "00:00");
+    }
+
+private:
+    static QLabel* Etiqueta(int lado) {
+        return Forms().reloj ? Forms().reloj->Label(lado == 2 ? 4 : 3) : nullptr;
+    }
+};
+
+// The peer while the program cannot connect: Conectado never becomes true, so the callers, which
+// ask for it first, never get here. A message with nobody to take it is dropped, as a send is
+// when there is no connection; the network layer puts its own peer here.
+class SinConexion final : public EntornoRed {
+public:
+    void EnviarMovimiento(int, int, int, int, int32_t) override {}
+    void EnviarInicioPartida() override {}
+    void EnviarLineaPartida(LineaPartida, const std::string&) override {}
+    void EnviarErrorPartida() override {}
+    void EnviarLadoRival(int, int) override {}
+    void EnviarFinPartida() override {}
+    void CancelarEpd() override {}
+    void EnviarPosicion() override {}
+    int PreguntarColor() override { return 1; }
+    void SumaDePartidas(int) override {} // only a rated game over the network is scored
+};
+
+// No engine can be started yet: the engine form is never up and no side is an engine's.
+class SinMotor final : public EntornoMotor {
+public:
+    bool CpuVisible() override { return false; }
+    void DetenerTimersCpu() override {}
+    void GenerarMovimiento() override {}
+};
+
+} // namespace
+
+void InstalarEntornoPrograma() {
+    static DialogosPrograma dialogos;
+    static SinConexion red;
+    static SinMotor motor;
+    InstalarDialogos(&dialogos);
+    InstalarRed(&red);
+    InstalarMotor(&motor);
+}
+
+} // namespace qa
