@@ -27,22 +27,6 @@ bool FichaElegible(int32_t codigo) {
     return (Turno == 2 && EsNegra(codigo)) || (Turno == 1 && EsBlanca(codigo));
 }
 
-bool ProbarDestino(const std::string& destino) {
-    SoloProbar = true;
-    Destino = destino;
-    FiltroMovimiento();
-    Destino.clear();
-    SoloProbar = false;
-    return MovimientoValido;
-}
-
-bool ProbarJugada(const std::string& origen, const std::string& destino) {
-    Origen = origen;
-    const bool legal = ProbarDestino(destino);
-    MovimientoAnulado();
-    return legal;
-}
-
 void SubComoFicha(const std::string& casilla) {
     if (casilla.size() < 2) return;
     const int col = casilla[0] - '0', fila = casilla[1] - '0';

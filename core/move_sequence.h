@@ -3,6 +3,9 @@
 // the engine's moves, which keep their own order around these steps: who may pick up what, the
 // probe without moving, the removal of a pawn taken en passant, and the finish of a legal move.
 
+#include "core/game_state.h"
+#include "core/move_filter.h"
+
 #include <cstdint>
 #include <string>
 
@@ -17,10 +20,23 @@ bool EsFichaPropia(int col, int fila);
 bool FichaElegible(int32_t codigo);
 
 // The filter in test-only mode: may the piece held in Origen go to `destino`? Origen stays held
-// and MovimientoValido keeps the answer, as under a dragged piece.
-bool ProbarDestino(const std::string& destino);
+// and MovimientoValido keeps the answer, as under a dragged piece. Inline: a dragged piece and
+// a search for legal moves ask it for every square.
+inline bool ProbarDestino(const std::string& destino) {
+    SoloProbar = true;
+    Destino = destino;
+    FiltroMovimiento();
+    Destino.clear();
+    SoloProbar = false;
+    return MovimientoValido;
+}
 // The same for a move with nothing held; the move's state is cleared afterwards.
-bool ProbarJugada(const std::string& origen, const std::string& destino);
+inline bool ProbarJugada(const std::string& origen, const std::string& destino) {
+    Origen = origen;
+    const bool legal = ProbarDestino(destino);
+    MovimientoAnulado();
+    return legal;
+}
 
 // An accepted en passant capture: the victim's square is cleared on the board and the picture.
 void SubComoFicha(const std::string& casilla);
