@@ -14,8 +14,8 @@
 #include "core/recorder.h"
 #include "core/takeback.h"
 #include "files/fen.h"
+#include "language/idioma.h"
 #include "platform/programa.h"
-#include "shell/idioma.h"
 
 #include <QApplication>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #include "board/textos.h"
 
-#include "shell/idioma.h"
+#include "language/idioma.h"
 
 #include <QAbstractButton>
 #include <QGroupBox>

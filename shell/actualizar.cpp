@@ -1,10 +1,10 @@
 #include "shell/actualizar.h"
 
+#include "language/idioma.h"
 #include "platform/descarga.h"
 #include "platform/programa.h"
 #include "platform/texto.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/servicios.h"
 #include "shell/splash.h"
 

@@ -2,6 +2,7 @@
 
 #include "core/environment.h"
 #include "core/game_state.h"
+#include "language/idioma.h"
 #include "platform/escritorio.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
@@ -12,7 +13,6 @@
 #include "shell/configuracion.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/jugadas.h"
 #include "shell/mdi.h"
 #include "shell/opciones.h"

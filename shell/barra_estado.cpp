@@ -1,9 +1,9 @@
 #include "shell/barra_estado.h"
 
 #include "core/game_state.h"
+#include "language/idioma.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/mdi.h"
 
 #include <QDate>

@@ -1,7 +1,7 @@
 #include "shell/chat.h"
 
+#include "language/idioma.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/mdi.h"
 #include "shell/servicios.h"
 

@@ -2,8 +2,8 @@
 
 #include "core/environment.h"
 #include "core/peer.h"
+#include "language/idioma.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/reloj.h"
 #include "shell/servicios.h"
 

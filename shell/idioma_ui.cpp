@@ -1,4 +1,5 @@
 // The language of the forms: every caption, menu and message comes from the current file.
+#include "language/idioma.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/texto.h"
@@ -6,7 +7,6 @@
 #include "shell/chat.h"
 #include "shell/configuracion.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/jugadas.h"
 #include "shell/mdi.h"
 #include "shell/opciones.h"

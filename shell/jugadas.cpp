@@ -1,7 +1,7 @@
 #include "shell/jugadas.h"
 
 #include "board/lista_jugadas.h"
-#include "shell/idioma.h"
+#include "language/idioma.h"
 
 namespace qa {
 

@@ -2,6 +2,7 @@
 
 #include "core/environment.h"
 #include "core/game_state.h"
+#include "language/idioma.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
@@ -13,7 +14,6 @@
 #include "shell/configuracion.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/opciones.h"
 #include "shell/servicios.h"
 #include "shell/splash.h"

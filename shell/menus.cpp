@@ -1,6 +1,6 @@
 // The menu tree and the toolbar of the main window, captioned from the language file.
+#include "language/idioma.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/mdi.h"
 
 #include <QAction>

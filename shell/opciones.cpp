@@ -1,7 +1,7 @@
 #include "shell/opciones.h"
 
 #include "board/apariencia.h"
-
+#include "language/idioma.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
@@ -9,7 +9,6 @@
 #include "shell/arranque.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/mdi.h"
 #include "shell/puntuacion.h"
 #include "shell/servicios.h"

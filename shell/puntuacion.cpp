@@ -1,11 +1,11 @@
 #include "shell/puntuacion.h"
 
+#include "language/idioma.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
 #include "platform/texto.h"
 #include "shell/configuracion.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/ranking.h"
 #include "shell/servicios.h"
 

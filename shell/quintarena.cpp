@@ -1,5 +1,6 @@
 #include "shell/quintarena.h"
 
+#include "language/idioma.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/texto.h"
@@ -7,7 +8,6 @@
 #include "shell/configuracion.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/mdi.h"
 #include "shell/opciones.h"
 #include "shell/puntuacion.h"

@@ -1,6 +1,6 @@
 #include "shell/ranking.h"
 
-#include "shell/idioma.h"
+#include "language/idioma.h"
 #include "shell/puntuacion.h"
 
 #include <QGroupBox>

@@ -1,6 +1,6 @@
 #include "shell/reloj.h"
 
-#include "shell/idioma.h"
+#include "language/idioma.h"
 
 #include <QGridLayout>
 #include <QLabel>

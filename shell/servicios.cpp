@@ -1,5 +1,6 @@
 #include "shell/servicios.h"
 
+#include "language/idioma.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
 #include "platform/sonido.h"
@@ -7,7 +8,6 @@
 #include "shell/chat.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/mdi.h"
 #include "shell/quintarena.h"
 

@@ -1,8 +1,8 @@
 #include "shell/splash.h"
 
+#include "language/idioma.h"
 #include "platform/descarga.h"
 #include "shell/actualizar.h"
-#include "shell/idioma.h"
 
 #include <QCloseEvent>
 #include <QDesktopServices>

@@ -1,8 +1,8 @@
+#include "language/idioma.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/texto.h"
 #include "shell/cli/cli_session.h"
-#include "shell/idioma.h"
 
 #include <filesystem>
 #include <iostream>

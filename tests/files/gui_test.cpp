@@ -8,7 +8,7 @@
 #include "files/pgn_browser.h"
 #include "files/pgn_scanner.h"
 #include "files_support.h"
-#include "shell/idioma.h"
+#include "language/idioma.h"
 
 #include <QComboBox>
 #include <QLabel>

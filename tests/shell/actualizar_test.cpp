@@ -1,9 +1,9 @@
 // The update check against a small HTTP server on 127.0.0.1.
 #include "prueba_programa.h"
 
+#include "language/idioma.h"
 #include "shell/actualizar.h"
 #include "shell/arranque.h"
-#include "shell/idioma.h"
 #include "shell/splash.h"
 
 #include <QTcpServer>

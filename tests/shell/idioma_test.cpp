@@ -1,6 +1,6 @@
+#include "language/idioma.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
-#include "shell/idioma.h"
 
 #include <gtest/gtest.h>
 

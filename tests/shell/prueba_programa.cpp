@@ -1,10 +1,10 @@
 #include "prueba_programa.h"
 
 #include "core/recorder.h"
+#include "language/idioma.h"
 #include "platform/ini_file.h"
 #include "shell/arranque.h"
 #include "shell/enlaces.h"
-#include "shell/idioma.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>

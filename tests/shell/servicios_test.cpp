@@ -3,6 +3,7 @@
 
 #include "core/game_state.h"
 #include "core/recorder.h"
+#include "language/idioma.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "shell/arranque.h"
@@ -10,7 +11,6 @@
 #include "shell/configuracion.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
-#include "shell/idioma.h"
 #include "shell/mdi.h"
 #include "shell/opciones.h"
 #include "shell/quintarena.h"

@@ -1,4 +1,4 @@
-#include "shell/idioma.h"
+#include "language/idioma.h"
 
 #include "platform/ini_file.h"
 #include "platform/programa.h"
