@@ -1,6 +1,7 @@
 #include "board/apariencia.h"
 
 #include "board/textos.h"
+#include "platform/texto.h"
 
 #include <QDir>
 
@@ -19,7 +20,7 @@ QStringList ActualizarSkins(const QString& nombreBase, const QString& carpetaApa
     const QDir dir(carpetaApariencias);
     if (!dir.exists()) return lista;
     for (const QString& n : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted))
-        lista << n.toLower();
+        lista << QString::fromStdString(Minusculas(n.toStdString()));
     return lista;
 }
 

@@ -1,5 +1,7 @@
 #include "board/colores.h"
 
+#include "platform/texto.h"
+
 #include <QEvent>
 #include <QGroupBox>
 #include <QLabel>
@@ -22,9 +24,14 @@ std::vector<Registro>& Registrados() {
     return r;
 }
 
-QColor Rgb(int r, int g, int b) {
-    auto c = [](int v) { return std::clamp(v, 0, 255); };
+// Wide, so that a base colour near the 32-bit limit plus a step cannot overflow.
+QColor Rgb(std::int64_t r, std::int64_t g, std::int64_t b) {
+    auto c = [](std::int64_t v) { return static_cast<int>(std::clamp<std::int64_t>(v, 0, 255)); };
     return QColor(c(r), c(g), c(b));
+}
+
+QColor Base(std::int64_t mas) {
+    return Rgb(ColorR + mas, ColorG + mas, ColorB + mas);
 }
 
 // Each form repaints its own background when its size changes.
@@ -71,24 +78,25 @@ void Colorear(QWidget* formulario, const QColor& c) {
 
 } // namespace
 
-bool LeerColor(const std::string& texto) {
-    const QStringList partes = QString::fromStdString(texto).split(QLatin1Char(':'));
-    if (partes.size() != 3) return false;
-    int v[3];
-    for (int i = 0; i < 3; ++i) {
-        bool ok = false;
-        v[i] = partes[i].trimmed().toInt(&ok);
-        if (!ok || v[i] < 0 || v[i] > 255) return false;
+void LeerColor(const std::string& texto) {
+    std::int32_t campos[3] = {0, 0, 0};
+    std::size_t campo = 0;
+    for (char c : texto) {
+        if (c == ':') {
+            ++campo;
+            continue;
+        }
+        if (campo > 2) continue;
+        if (auto v = AEntero(std::to_string(campos[campo]) + c))
+            campos[campo] = static_cast<std::int32_t>(*v);
     }
-    ColorR = v[0];
-    ColorG = v[1];
-    ColorB = v[2];
-    return true;
+    ColorR = campos[0];
+    ColorG = campos[1];
+    ColorB = campos[2];
 }
 
 QColor ColorInterior() {
-    const int d = Fondo == 1 ? 200 : 0;
-    return Rgb(ColorR + d, ColorG + d, ColorB + d);
+    return Base(Fondo == 1 ? 200 : 0);
 }
 
 void RegistrarFormulario(QWidget* formulario, int grupo) {
@@ -108,11 +116,10 @@ void PintarFormularios(int codigo) {
 
 void Bisel(int x1, int y1, int x2, int y2, QImage& picture) {
     if (Fondo == 2) return;
-    const int d = Fondo == 1 ? 200 : 0;
-    picture.fill(Rgb(ColorR + d, ColorG + d, ColorB + d));
+    picture.fill(Base(Fondo == 1 ? 200 : 0));
     QPainter p(&picture);
     for (int k = 0; k < 6; ++k) {
-        p.setPen(Rgb(ColorR + 40 * k, ColorG + 40 * k, ColorB + 40 * k));
+        p.setPen(Base(40 * k));
         p.drawLine(x1 + k, y1 + k, x2 - k, y1 + k); // top
         p.drawLine(x1 + k, y2 - k, x2 - k, y2 - k); // bottom
         p.drawLine(x1 + k, y1 + k, x1 + k, y2 - k); // left

@@ -5,6 +5,8 @@
 
 #include "core/environment.h"
 #include "core/game_state.h"
+#include "platform/mensajes.h"
+#include "platform/texto.h"
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -173,11 +175,11 @@ bool VistaTablero::PonerApariencia(const QString& nombre) {
         apariencia_ = nombreBase_;
         Redimensionar();
         emit AparienciaCambiada(nombreBase_);
-        dialogos().MostrarMensaje("Quintarena", "25", 64, 0, 0);
+        dialogos().MostrarMensaje("Quintarena", "25", kIconoInformacion, 0, 0);
         return false;
     }
     pic_->PonerSkin(std::move(skin));
-    apariencia_ = nombre.toLower();
+    apariencia_ = QString::fromStdString(Minusculas(nombre.toStdString()));
     timer1_.start();
     return true;
 }

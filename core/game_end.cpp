@@ -3,6 +3,7 @@
 #include "core/environment.h"
 #include "core/game_state.h"
 #include "core/peer.h"
+#include "platform/mensajes.h"
 
 namespace Variables {
 
@@ -27,7 +28,7 @@ void FinPorMate() {
     MovimientoAnulado();
     VariablesCero();
     if (motor().CpuVisible()) motor().DetenerTimersCpu();
-    dialogos().MostrarMensaje("Quintarena", ganaBlanco ? "1" : "2", 64, 0, 0);
+    dialogos().MostrarMensaje("Quintarena", ganaBlanco ? "1" : "2", qa::kIconoInformacion, 0, 0);
 }
 
 // No sound and no engine timers stopped here, unlike mate.
@@ -36,7 +37,7 @@ void FinPorAhogado() {
     TerminarPartida();
     MovimientoAnulado();
     VariablesCero();
-    dialogos().MostrarMensaje("Quintarena", "3", 64, 0, 0);
+    dialogos().MostrarMensaje("Quintarena", "3", qa::kIconoInformacion, 0, 0);
 }
 
 } // namespace Variables

@@ -2,12 +2,14 @@
 // The move texts and undo records of the Jugadas window. The history of the
 // game lives here and nowhere else: take-back reads it, the game file writes it.
 
+#include "platform/texto.h"
+
 #include <string>
 #include <vector>
 
 namespace Jugadas {
 
-inline constexpr const char* FinLinea = "\r\n";
+using qa::FinLinea;
 
 // List[1] coordinates, [2] Spanish, [3] English, [4] the game as squares,
 // [5] the user's letters. Each half-move is one line ended by CR LF.

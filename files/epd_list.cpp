@@ -6,6 +6,7 @@
 #include "core/peer.h"
 #include "files/fen.h"
 #include "files/line_reader.h"
+#include "platform/mensajes.h"
 
 namespace FEpd {
 
@@ -13,7 +14,7 @@ using namespace Variables;
 
 namespace {
 
-constexpr int kIconoInformacion = 64;
+using qa::kIconoInformacion;
 
 // A fresh game at one machine, as the new-game dialog makes it.
 void NuevoAceptado() {

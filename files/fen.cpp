@@ -5,6 +5,7 @@
 #include "core/move_list.h"
 #include "core/notation.h"
 #include "core/peer.h"
+#include "platform/texto.h"
 
 #include <cctype>
 #include <vector>
@@ -131,8 +132,7 @@ bool LeerFen(const std::string& linea) {
     }
     if (i != 64) return false;
 
-    std::string lado = campos[1];
-    for (char& ch : lado) ch = static_cast<char>(std::tolower(static_cast<unsigned char>(ch)));
+    const std::string lado = qa::Minusculas(campos[1]);
     if (lado == "w")
         ColorInicio = 1;
     else if (lado == "b")
@@ -160,10 +160,7 @@ bool LeerFen(const std::string& linea) {
         AlPasoFen.clear();
     } else {
         AlPasoFen = alPaso;
-        const char primera =
-            alPaso.empty()
-                ? '\0'
-                : static_cast<char>(std::tolower(static_cast<unsigned char>(alPaso.front())));
+        const char primera = alPaso.empty() ? '\0' : qa::Minusculas(alPaso.substr(0, 1)).front();
         const char ultima = alPaso.empty() ? '\0' : alPaso.back();
         const int col = (primera >= 'a' && primera <= 'h') ? primera - 'a' + 1 : 0;
         const int fila = ultima == '3' ? 4 : ultima == '6' ? 5 : 0;

@@ -6,6 +6,9 @@
 #include "files/fen.h"
 #include "files/line_reader.h"
 #include "files/pgn_scanner.h"
+#include "platform/escritura.h"
+#include "platform/mensajes.h"
+#include "platform/texto.h"
 
 #include <ctime>
 
@@ -13,8 +16,7 @@ namespace Variables {
 
 namespace {
 
-constexpr int kIconoInformacion = 64;
-constexpr const char* kFin = "\r\n";
+using qa::kIconoInformacion;
 
 // Minutes and seconds of a clock caption such as "05:30": its first two and
 // last two characters.
@@ -26,21 +28,10 @@ std::string Tiempo(const std::string& rotulo) {
 }
 
 Guardado Escribir(const std::string& texto) {
-    if (!Ficheros::EscribirSeguro(RutaPartida, texto)) return Guardado::Fallo;
+    if (!qa::EscribirFichero(RutaPartida, texto)) return Guardado::Fallo;
     dialogos().MostrarMensaje("Quintarena", "34", kIconoInformacion, 0, 0);
     RutaPartida.clear();
     return Guardado::Hecho;
-}
-
-std::string Reemplazar(std::string s, char que, const std::string& por) {
-    std::string r;
-    for (char c : s) {
-        if (c == que)
-            r += por;
-        else
-            r += c;
-    }
-    return r;
 }
 
 } // namespace
@@ -53,12 +44,12 @@ std::vector<std::pair<std::string, std::string>> FiltrosGuardar() {
 std::string TextoQtr() {
     const std::string b = Tiempo(dialogos().TextoReloj(1));
     const std::string n = Tiempo(dialogos().TextoReloj(2));
-    std::string t = b + kFin + n + kFin;
+    std::string t = b + qa::FinLinea + n + qa::FinLinea;
     if (!TipoPartida.empty()) {
-        t += TipoPartida + kFin;
+        t += TipoPartida + qa::FinLinea;
     } else {
-        if (b != "0000" || n != "0000") t += std::string("R") + kFin;
-        if (b == "0000" || n == "0000") t += std::string("A") + kFin;
+        if (b != "0000" || n != "0000") t += std::string("R") + qa::FinLinea;
+        if (b == "0000" || n == "0000") t += std::string("A") + qa::FinLinea;
     }
     return t + Jugadas::List[4];
 }
@@ -74,7 +65,7 @@ std::string ConstruirTextoPgn(const std::string& lista3) {
                 out += ' ';
                 ++linea;
             } else {
-                out += kFin;
+                out += qa::FinLinea;
                 linea = 0;
             }
             continue;
@@ -93,8 +84,9 @@ Guardado GuardarPartida(const std::string& ruta) {
     RutaPartida.clear();
     if (EditandoTablero || ruta.empty()) return Guardado::Nada;
     RutaPartida = ruta;
-    if (!Ficheros::QuitarSoloLectura(ruta)) {
-        const std::string t = Reemplazar(dialogos().Mensaje(28), '$', kFin + ruta + kFin);
+    if (!qa::QuitarSoloLectura(ruta)) {
+        const std::string t =
+            qa::ReemplazarDolar(dialogos().Mensaje(28), qa::FinLinea + ruta + qa::FinLinea);
         dialogos().MostrarMensaje("Quintarena", t, kIconoInformacion, 0, 0);
         RutaPartida.clear();
         return Guardado::Fallo;
@@ -104,7 +96,7 @@ Guardado GuardarPartida(const std::string& ruta) {
     const std::string ext = Ficheros::Extension3(ruta);
     if (ext == "epd") {
         EscribirFen();
-        return Escribir(TextoFen + kFin);
+        return Escribir(TextoFen + qa::FinLinea);
     }
     if (ext == "qtr") {
         TextoPartida = TextoQtr();
@@ -139,8 +131,9 @@ Guardado ConfirmarEtiquetasPgn(const EtiquetasPgn& e) {
     GuardandoPgn = false;
     if (RutaPartida.empty()) return Guardado::Nada;
     std::string t;
-    for (int i = 0; i < 7; ++i) t += std::string(nombres[i]) + "\"" + e.valor[i] + "\"]" + kFin;
-    t += kFin + TextoPgn + e.valor[6] + kFin;
+    for (int i = 0; i < 7; ++i)
+        t += std::string(nombres[i]) + "\"" + e.valor[i] + "\"]" + qa::FinLinea;
+    t += qa::FinLinea + TextoPgn + e.valor[6] + qa::FinLinea;
     TextoPartida = t;
     const Guardado g = Escribir(t);
     RutaPartida.clear();

@@ -1,9 +1,9 @@
 #include "files/line_reader.h"
 
+#include "platform/texto.h"
+
 #include <algorithm>
-#include <cctype>
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -108,46 +108,8 @@ bool Existe(const std::string& ruta) {
     return ::stat(ruta.c_str(), &st) == 0;
 }
 
-bool QuitarSoloLectura(const std::string& ruta) {
-    struct stat st {};
-    if (::stat(ruta.c_str(), &st) != 0) return true;
-    if (S_ISDIR(st.st_mode)) return false;
-    if (st.st_mode & S_IWUSR) return true;
-    return ::chmod(ruta.c_str(), (st.st_mode & 07777) | S_IWUSR) == 0;
-}
-
-bool EscribirSeguro(const std::string& ruta, const std::string& texto) {
-    if (ruta.empty()) return false;
-    std::string plantilla = ruta + ".XXXXXX";
-    int fd = ::mkstemp(plantilla.data());
-    if (fd < 0) return false;
-    size_t hecho = 0;
-    bool bien = true;
-    while (hecho < texto.size()) {
-        ssize_t n = ::write(fd, texto.data() + hecho, texto.size() - hecho);
-        if (n < 0 && errno == EINTR) continue;
-        if (n <= 0) {
-            bien = false;
-            break;
-        }
-        hecho += static_cast<size_t>(n);
-    }
-    if (bien) bien = ::fsync(fd) == 0;
-    // A saved game is an ordinary document: not the private mode mkstemp gives.
-    const mode_t mascara = ::umask(0);
-    ::umask(mascara);
-    if (bien) bien = ::fchmod(fd, 0666 & ~mascara) == 0;
-    if (::close(fd) != 0) bien = false;
-    if (bien) bien = std::rename(plantilla.c_str(), ruta.c_str()) == 0;
-    if (!bien) ::unlink(plantilla.c_str());
-    return bien;
-}
-
 std::string Extension3(const std::string& ruta) {
-    std::string e = ruta.size() >= 3 ? ruta.substr(ruta.size() - 3) : ruta;
-    std::transform(e.begin(), e.end(), e.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return e;
+    return qa::Minusculas(ruta.size() >= 3 ? ruta.substr(ruta.size() - 3) : ruta);
 }
 
 } // namespace Ficheros

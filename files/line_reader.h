@@ -40,16 +40,10 @@ private:
     bool eof_ = false;
 };
 
-// Whole-file and safe-write helpers for the game files.
+// Whole-file helpers for the game files.
 namespace Ficheros {
 
 bool Existe(const std::string& ruta);
-// Gives the owner the right to write an existing file; true when there is
-// nothing to do or it worked.
-bool QuitarSoloLectura(const std::string& ruta);
-// Writes to a temporary name beside the target and renames it into place,
-// so a failure never leaves the old file half written or emptied.
-bool EscribirSeguro(const std::string& ruta, const std::string& texto);
 // The last three letters of a path, in lower case.
 std::string Extension3(const std::string& ruta);
 

@@ -10,6 +10,7 @@
 #include "files/pgn_scanner.h"
 #include "files/pgn_text.h"
 #include "files/qtr_replay.h"
+#include "platform/mensajes.h"
 
 #include <algorithm>
 
@@ -17,7 +18,7 @@ namespace Variables {
 
 namespace {
 
-constexpr int kIconoInformacion = 64;
+using qa::kIconoInformacion;
 
 int32_t Ultima() {
     return static_cast<int32_t>(ListaPgn::PgnJugadas.size()) - 1;

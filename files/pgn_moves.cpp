@@ -6,12 +6,13 @@
 #include "core/move_filter.h"
 #include "core/move_sequence.h"
 #include "files/pgn_scanner.h"
+#include "platform/mensajes.h"
 
 namespace Variables {
 
 namespace {
 
-constexpr int kIconoInformacion = 64;
+using qa::kIconoInformacion;
 
 int Columna(char c) {
     return (c >= 'a' && c <= 'h') ? c - 'a' + 1 : 0;

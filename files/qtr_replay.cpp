@@ -11,6 +11,7 @@
 #include "files/line_reader.h"
 #include "files/pgn_scanner.h"
 #include "files/pgn_text.h"
+#include "platform/mensajes.h"
 
 #include <string_view>
 #include <vector>
@@ -19,7 +20,7 @@ namespace Variables {
 
 namespace {
 
-constexpr int kIconoInformacion = 64;
+using qa::kIconoInformacion;
 
 // The lines of the file read as tokens ended by a comma or a line end; a
 // token in double quotes keeps its commas.

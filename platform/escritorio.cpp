@@ -1,11 +1,12 @@
 #include "platform/escritorio.h"
 
+#include "platform/escritura.h"
+
 #include <QProcess>
 #include <QStandardPaths>
 #include <QStringList>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -44,9 +45,7 @@ std::string Comillas(const std::string& s) {
 bool Escribir(const fs::path& ruta, const std::string& texto) {
     std::error_code ec;
     fs::create_directories(ruta.parent_path(), ec);
-    std::ofstream out(ruta, std::ios::binary | std::ios::trunc);
-    out << texto;
-    return static_cast<bool>(out);
+    return EscribirFichero(ruta.string(), texto);
 }
 
 void Actualizar(const char* herramienta, const fs::path& carpeta) {

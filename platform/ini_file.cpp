@@ -1,17 +1,13 @@
 #include "platform/ini_file.h"
 
+#include "platform/escritura.h"
 #include "platform/ruta.h"
 #include "platform/texto.h"
 
-#include <cstdio>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <sstream>
-#include <unistd.h>
 #include <vector>
-
-namespace fs = std::filesystem;
 
 namespace qa {
 
@@ -129,26 +125,7 @@ std::string Valor(std::string_view texto) {
 bool Guardar(const std::string& ruta, const Fichero& f) {
     std::string bytes;
     for (const auto& l : f.lineas) bytes += l.bruta + l.fin;
-    const std::string temporal = ruta + ".tmp" + std::to_string(::getpid());
-    {
-        std::ofstream out(temporal, std::ios::binary | std::ios::trunc);
-        if (!out) return false;
-        out.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        out.flush();
-        if (!out) {
-            out.close();
-            std::remove(temporal.c_str());
-            return false;
-        }
-    }
-    std::error_code ec;
-    auto permisos = fs::status(ruta, ec).permissions();
-    if (!ec) fs::permissions(temporal, permisos, ec);
-    if (std::rename(temporal.c_str(), ruta.c_str()) != 0) {
-        std::remove(temporal.c_str());
-        return false;
-    }
-    return true;
+    return EscribirFichero(ruta, bytes);
 }
 
 } // namespace
@@ -173,7 +150,7 @@ std::string LeerIni(const std::string& fichero, const std::string& seccion,
 bool EscribirIni(const std::string& fichero, const std::string& seccion, const std::string& clave,
                  const std::string& valor) {
     if (Recortar(seccion).empty() || Recortar(clave).empty()) return false;
-    const std::string ruta = RutaReal(fichero);
+    const std::string ruta = RutaEscritura(fichero);
     Fichero f;
     Cargar(ruta, f);
     // A line end inside a value would make a new line of the file.

@@ -5,7 +5,6 @@ namespace qa {
 std::string DirectorioPrograma;
 std::string DirectorioDatos;
 std::string FicheroOpciones;
-std::string FinLinea = "\r\n";
 
 namespace {
 

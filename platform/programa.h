@@ -1,6 +1,7 @@
 #pragma once
 // Where the program lives. DirectorioPrograma is a Windows-style text ending in a backslash;
-// every path built from it goes through RutaReal before it touches the disk.
+// every path built from it goes through RutaReal (to read) or RutaEscritura (to write) before
+// it touches the disk.
 #include <string>
 
 namespace qa {
@@ -10,7 +11,6 @@ extern std::string DirectorioPrograma;
 // own folder, unless an installed copy cannot write there. Same style as DirectorioPrograma.
 extern std::string DirectorioDatos;
 extern std::string FicheroOpciones;
-extern std::string FinLinea;
 
 // Sets DirectorioPrograma from a real folder, and DirectorioDatos and FicheroOpciones after it.
 void FijarDirectorioPrograma(const std::string& carpeta);

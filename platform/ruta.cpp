@@ -12,9 +12,10 @@ namespace qa {
 
 namespace {
 
+// Through links: a dangling or looping link names no file.
 bool Existe(const fs::path& p) {
     std::error_code ec;
-    return fs::exists(fs::symlink_status(p, ec)) && !ec;
+    return fs::exists(fs::status(p, ec)) && !ec;
 }
 
 // The entry of `carpeta` whose name matches `nombre` without regard to case; the smallest name
@@ -31,11 +32,12 @@ std::string BuscarSinCaso(const fs::path& carpeta, const std::string& nombre) {
     return mejor;
 }
 
-} // namespace
+std::string ConBarras(std::string ruta) {
+    std::replace(ruta.begin(), ruta.end(), '\\', '/');
+    return ruta;
+}
 
-std::string RutaReal(const std::string& ruta) {
-    std::string p = ruta;
-    std::replace(p.begin(), p.end(), '\\', '/');
+std::string BuscarRuta(const std::string& p) {
     if (p.empty() || Existe(p)) return p;
 
     const bool absoluta = p.front() == '/';
@@ -63,8 +65,26 @@ std::string RutaReal(const std::string& ruta) {
     return r;
 }
 
+} // namespace
+
+std::string RutaReal(const std::string& ruta) {
+    return BuscarRuta(ConBarras(ruta));
+}
+
+std::string RutaUsuario(const std::string& ruta) {
+    return BuscarRuta(ruta);
+}
+
+std::string RutaEscritura(const std::string& ruta) {
+    return ConBarras(ruta);
+}
+
 bool ExisteRuta(const std::string& ruta) {
     return !ruta.empty() && Existe(RutaReal(ruta));
+}
+
+bool ExisteRutaUsuario(const std::string& ruta) {
+    return !ruta.empty() && Existe(RutaUsuario(ruta));
 }
 
 bool EsCarpeta(const std::string& ruta) {

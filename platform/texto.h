@@ -7,6 +7,9 @@
 
 namespace qa {
 
+// The line end of every file and message text the program writes.
+inline constexpr const char FinLinea[] = "\r\n";
+
 // Lower case for ASCII and the Latin-1 letters (Ñ, Á, ...), the letters our names use.
 std::string Minusculas(std::string_view texto);
 bool IgualSinCaso(std::string_view a, std::string_view b);

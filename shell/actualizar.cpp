@@ -27,7 +27,7 @@ void Actualizar(const std::string& base) {
 
 void FinActualizacion(const QString& propiedad, const QString& fichero) {
     if (propiedad != "Links") {
-        MostrarMensaje("Quintarena", "108", kIconoInformacion);
+        MostrarMensajeNumero(108, kIconoInformacion);
         return;
     }
     std::string ultima;
@@ -44,15 +44,15 @@ void FinActualizacion(const QString& propiedad, const QString& fichero) {
     }
     QFile::remove(fichero);
     if (Val(ultima) > Val(kVersionIdioma)) {
-        if (MostrarMensaje("Quintarena", "98", kIconoPregunta, kBotonesSiNo) == kRespuestaSi)
+        if (MostrarMensajeNumero(98, kIconoPregunta, kBotonesSiNo) == kRespuestaSi)
             QDesktopServices::openUrl(QUrl(kDireccionWeb));
     } else {
-        MostrarMensaje("Quintarena", "99", kIconoInformacion);
+        MostrarMensajeNumero(99, kIconoInformacion);
     }
 }
 
 void FalloActualizacion() {
-    MostrarMensaje("Quintarena", "93", kIconoStop);
+    MostrarMensajeNumero(93, kIconoStop);
 }
 
 } // namespace qa

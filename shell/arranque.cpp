@@ -4,6 +4,7 @@
 #include "core/game_state.h"
 #include "language/idioma.h"
 #include "platform/escritorio.h"
+#include "platform/escritura.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
@@ -75,8 +76,8 @@ void TerminarPrograma() {
 }
 
 std::string RutaLarga(const std::string& ruta) {
-    const std::string real = RutaReal(ruta);
-    return ExisteRuta(real) ? real : std::string();
+    const std::string real = RutaUsuario(ruta);
+    return ExisteRutaUsuario(real) ? real : std::string();
 }
 
 std::string NombreDeLineaDeOrdenes(const std::string& linea) {
@@ -128,6 +129,7 @@ bool Main(const std::vector<std::string>& argumentos) {
     g_r = "R";
     g_t = "T";
     FijarCarpetas();
+    LimpiarTemporales(RutaEscritura(DirectorioDatos));
     if (!ExisteFichero(FicheroOpciones)) return false;
 
     auto* mdi = new Mdi;

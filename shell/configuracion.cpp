@@ -1,8 +1,10 @@
 #include "shell/configuracion.h"
 
+#include "board/colores.h"
 #include "core/environment.h"
 #include "core/game_state.h"
 #include "language/idioma.h"
+#include "platform/escritura.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
@@ -72,28 +74,11 @@ bool ExisteFichero(const std::string& fichero) {
 
 bool LiberarFichero(const std::string& fichero) {
     if (!ExisteRuta(fichero)) return true;
-    if (QuitarSoloLectura(fichero)) return true;
-    std::string t =
-        ReemplazarDolar(Mensajes[28], FinLinea + RutaReal(fichero) + FinLinea + FinLinea);
+    const std::string ruta = RutaEscritura(fichero);
+    if (QuitarSoloLectura(ruta)) return true;
+    std::string t = ReemplazarDolar(Mensajes[28], FinLinea + ruta + FinLinea + FinLinea);
     if (!t.empty()) MostrarMensaje("Quintarena", t, kIconoInformacion);
     return false;
-}
-
-void LeerColor(const std::string& valor, long& r, long& g, long& b) {
-    long campos[3] = {0, 0, 0};
-    std::size_t campo = 0;
-    for (char c : valor) {
-        if (c == ':') {
-            ++campo;
-            continue;
-        }
-        if (campo > 2) continue;
-        // A character that makes no number leaves the field as it was.
-        if (auto v = AEntero(std::to_string(campos[campo]) + c)) campos[campo] = *v;
-    }
-    r = campos[0];
-    g = campos[1];
-    b = campos[2];
 }
 
 int NotacionMarcada() {
@@ -126,11 +111,12 @@ void LeerOpciones() {
     }
     Ejecutar(Enlace().NotacionCambiada);
 
-    auto& c = Controles();
     if (auto f = AEntero(Leer("Configuracion", "Fondo")); f && (*f == 1 || *f == 2))
-        c.Fondo = static_cast<int>(*f);
-    LeerColor(Leer("Configuracion", "Color"), c.ColorR, c.ColorG, c.ColorB);
+        Fondo = static_cast<int>(*f);
+    LeerColor(Leer("Configuracion", "Color"));
     Ejecutar(Enlace().PintarFondos);
+
+    auto& c = Controles();
 
     c.Nick = Leer("Configuracion", "Nick");
     c.NuevoText1 = Leer("Configuracion", "Tiempo");

@@ -16,8 +16,6 @@ struct ControlesPendientes {
     std::string NuevoText1; // minutes of a new game
     std::string Level2Text1, Level2Text2, Level2Text3, Level2Combo1;
     int Level2Option = 0;
-    int Fondo = 1; // 1 coloured backgrounds, 2 system colour
-    long ColorR = 0, ColorG = 0, ColorB = 0;
     std::string AutoPlay, Dir, Tipo;
     Lugar ListaPgn, PgnMovimientos, Cpu, Epd;
 };
@@ -34,8 +32,6 @@ bool LiberarFichero(const std::string& fichero);
 
 // The whole read of the settings file; a bad value leaves its control as it was.
 void LeerOpciones();
-// "255:0:0": one character at a time, as the settings have always been read.
-void LeerColor(const std::string& valor, long& r, long& g, long& b);
 
 // The writes of the close, in the order of the file's table.
 void GuardarOpciones();

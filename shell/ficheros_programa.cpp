@@ -64,7 +64,7 @@ void AbrirPartidaQtr(const std::string& ruta) {
     TipoPartida.clear();
     ColorJugador.clear();
     Turno = 0;
-    if (!AbrirQtr(RutaReal(ruta))) return;
+    if (!AbrirQtr(RutaUsuario(ruta))) return;
     // A replay is shown from White's side.
     if (Marcada("mnuInvertirTablero") && Forms().mdi) {
         Marcar("mnuInvertirTablero", false);
@@ -128,7 +128,7 @@ ListaPgnF* FormularioPgn() {
 void CargarPgn(const std::string& ruta) {
     ListaPgnF* f = FormularioPgn();
     OcultarVentanas(f->isVisible());
-    f->Abrir(QString::fromStdString(RutaReal(ruta)));
+    f->Abrir(QString::fromStdString(RutaUsuario(ruta)));
     Situar(f, Controles().ListaPgn);
     f->show();
     f->raise();
@@ -148,12 +148,11 @@ void AbrirFicheroEpd(const std::string& ruta) {
     }
     // A position on show is replaced only when the player agrees.
     if (f->isVisible()) {
-        if (MostrarMensaje("Quintarena", "57", kIconoPregunta, kBotonesSiNo) != kRespuestaSi)
-            return;
+        if (MostrarMensajeNumero(57, kIconoPregunta, kBotonesSiNo) != kRespuestaSi) return;
         f->close();
     }
     PonerPiezas(f->Tablero());
-    f->Abrir(QString::fromStdString(RutaReal(ruta)));
+    f->Abrir(QString::fromStdString(RutaUsuario(ruta)));
     Situar(f, Controles().Epd);
     f->show();
     f->raise();
@@ -171,7 +170,7 @@ public:
 
 void GuardarPartidaComando() {
     if (Cargando || motor().CpuVisible()) {
-        MostrarMensaje("Quintarena", "80", kIconoInformacion);
+        MostrarMensajeNumero(80, kIconoInformacion);
         return;
     }
     if (EditandoTablero) return;
@@ -203,9 +202,6 @@ void MostrarColorRgb() {
             dialogo, &ColorRgb::Aceptado, [](const QString& color, const QString& fondo) {
                 EscribirIni(FicheroOpciones, "Configuracion", "Color", color.toStdString());
                 EscribirIni(FicheroOpciones, "Configuracion", "Fondo", fondo.toStdString());
-                auto& c = Controles();
-                c.ColorR = ColorR, c.ColorG = ColorG, c.ColorB = ColorB;
-                c.Fondo = Fondo;
             });
     }
     if (Forms().mdi) {
@@ -229,14 +225,7 @@ void InstalarFicheros() {
     en.Comandos["mnuGuardarPartida"] = GuardarPartidaComando;
     en.Comandos["mnuGuardarComo"] = GuardarPartidaComando;
     en.Comandos["mnuRgb"] = MostrarColorRgb;
-    en.PintarFondos = [] {
-        const auto& c = Controles();
-        ColorR = static_cast<int>(c.ColorR);
-        ColorG = static_cast<int>(c.ColorG);
-        ColorB = static_cast<int>(c.ColorB);
-        Fondo = c.Fondo;
-        PintarFormularios(0);
-    };
+    en.PintarFondos = [] { PintarFormularios(0); };
 }
 
 } // namespace qa

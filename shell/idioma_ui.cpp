@@ -102,7 +102,8 @@ void CambiarIdioma() {
 }
 
 void AvisarIdiomaIncorrecto() {
-    MostrarMensaje("Quintarena", "Fichero de idioma incorrecto." + FinLinea + "Cambie el fíchero.",
+    MostrarMensaje("Quintarena",
+                   std::string("Fichero de idioma incorrecto.") + FinLinea + "Cambie el fíchero.",
                    kIconoInformacion);
     // The plain name, in the current folder, as it has always been written.
     EscribirIni("Default.ini", "Configuracion", "Idioma", "Español");

@@ -131,7 +131,7 @@ void Mdi::AbrirFichero(const std::string& ruta) {
         c.Tipo = std::to_string(r.filtro);
         nombre = r.fichero;
     }
-    if (!ExisteRuta(nombre)) return;
+    if (!ExisteRutaUsuario(nombre)) return;
     const std::string bajo = Minusculas(nombre);
     if (TerminaEn(bajo, ".pgn")) {
         if (!Variables::Conectado && en.CargarPgn) en.CargarPgn(nombre);
@@ -191,7 +191,7 @@ void Mdi::Comando(const std::string& n) {
         GuardarChat();
     } else if (n == "mnuGuararImagen") {
         if (motor().CpuVisible())
-            MostrarMensaje("Quintarena", "80", kIconoInformacion);
+            MostrarMensajeNumero(80, kIconoInformacion);
         else
             GuardarImagen();
     } else if (n == "mnuSalir") {
@@ -219,7 +219,7 @@ void Mdi::Comando(const std::string& n) {
         CambiarNotacion(4);
     } else if (n == "mnuOpciones") {
         if (Cierto(en.Cargando) || motor().CpuVisible()) {
-            MostrarMensaje("Quintarena", "80", kIconoInformacion);
+            MostrarMensajeNumero(80, kIconoInformacion);
         } else if (Opciones* op = Forms().opciones) {
             op->ActualizarSkins();
             CentrarEnMdi(op);

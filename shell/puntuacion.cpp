@@ -1,6 +1,7 @@
 #include "shell/puntuacion.h"
 
 #include "language/idioma.h"
+#include "platform/escritura.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
 #include "platform/texto.h"
@@ -10,9 +11,7 @@
 #include "shell/servicios.h"
 
 #include <QLabel>
-#include <cstdio>
 #include <fstream>
-#include <unistd.h>
 
 namespace qa {
 
@@ -66,10 +65,10 @@ void ComprobarPuntuacion() {
 
 void GrabarPuntuacion() {
     const std::string fichero = FicheroPuntuacion();
+    const std::string ruta = RutaEscritura(fichero);
     if (ExisteRuta(fichero)) {
-        if (!QuitarSoloLectura(fichero)) {
-            std::string t = ReemplazarDolar(Mensajes[28], FinLinea + RutaReal(fichero) + FinLinea);
-            MostrarMensaje("Quintarena", t, kIconoInformacion);
+        if (!QuitarSoloLectura(ruta)) {
+            AvisoNoEscribible(ruta);
             return;
         }
     } else {
@@ -81,19 +80,8 @@ void GrabarPuntuacion() {
         auto v = static_cast<std::uint32_t>(*Campos(Puntuacion, i));
         for (int k = 0; k < 4; ++k) b[i * 4 + k] = static_cast<char>((v >> (8 * k)) & 0xFF);
     }
-    const std::string ruta = RutaReal(fichero);
-    const std::string temporal = ruta + ".tmp" + std::to_string(::getpid());
-    bool bien = false;
-    {
-        std::ofstream out(temporal, std::ios::binary | std::ios::trunc);
-        out.write(b, sizeof b);
-        out.flush();
-        bien = static_cast<bool>(out);
-    }
-    if (!bien || std::rename(temporal.c_str(), ruta.c_str()) != 0) {
-        std::remove(temporal.c_str());
-        std::string t = ReemplazarDolar(Mensajes[28], FinLinea + ruta + FinLinea);
-        if (!t.empty()) MostrarMensaje("Quintarena", t, kIconoInformacion);
+    if (!EscribirFichero(ruta, std::string_view(b, sizeof b))) {
+        AvisoNoEscribible(ruta);
         return;
     }
     PrintPuntuacion();

@@ -62,7 +62,6 @@ bool Quintarena::ComprobarResolucion(int ancho) {
 void Quintarena::Cargar() {
     auto& f = Forms();
     Splash* splash = f.splash;
-    FinLinea = "\r\n";
     splash->Estado("Cargando configuración...");
     FijarCarpetas();
     if (!ExisteFichero(FicheroOpciones)) {
@@ -93,12 +92,12 @@ void Quintarena::Cargar() {
 
     QScreen* pantalla = QGuiApplication::primaryScreen();
     if (pantalla && !ComprobarColores(pantalla->depth())) {
-        MostrarMensaje("Quintarena", "71", kIconoStop);
+        MostrarMensajeNumero(71, kIconoStop);
         f.mdi->Descargar();
         if (FinPrograma()) return;
     }
     if (pantalla && !ComprobarResolucion(pantalla->geometry().width())) {
-        MostrarMensaje("Quintarena", "72", kIconoStop);
+        MostrarMensajeNumero(72, kIconoStop);
         f.mdi->Descargar();
         if (FinPrograma()) return;
     }

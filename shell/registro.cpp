@@ -48,13 +48,13 @@ void RegistrarFicheros() {
     if (EsCero("RegitQtr"))
         RegistrarExtension(1, ".qtr", "qtrfile", "qtrfile", "Quintarena", "qtrfile");
     if (EsCero("RegitPgn")) {
-        if (MostrarMensaje("Quintarena", "70", kIconoPregunta, kBotonesSiNo) == kRespuestaSi)
+        if (MostrarMensajeNumero(70, kIconoPregunta, kBotonesSiNo) == kRespuestaSi)
             RegistrarExtension(2, ".pgn", "pgnfile", "pgnfile", "Quintarena", "pgnfile");
         else
             EscribirIni(FicheroOpciones, "Configuracion", "RegitPgn", "1");
     }
     if (EsCero("RegitEpd")) {
-        if (MostrarMensaje("Quintarena", "85", kIconoPregunta, kBotonesSiNo) == kRespuestaSi)
+        if (MostrarMensajeNumero(85, kIconoPregunta, kBotonesSiNo) == kRespuestaSi)
             RegistrarExtension(3, ".epd", "epdfile", "epdfile", "Quintarena", "epdfile");
         else
             EscribirIni(FicheroOpciones, "Configuracion", "RegitEpd", "1");

@@ -1,6 +1,7 @@
 #include "shell/servicios.h"
 
 #include "language/idioma.h"
+#include "platform/escritura.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
 #include "platform/sonido.h"
@@ -12,8 +13,8 @@
 #include "shell/quintarena.h"
 
 #include <QAction>
+#include <QBuffer>
 #include <QCursor>
-#include <QFile>
 #include <QFileDialog>
 #include <QMenu>
 #include <QMessageBox>
@@ -63,13 +64,12 @@ int CajaReal(const CMensaje& m) {
     return 1;
 }
 
-// The message that reports a file that cannot be rewritten, "$" standing for its name.
-void AvisoNoEscribible(const std::string& fichero) {
-    std::string t = ReemplazarDolar(Mensajes[28], FinLinea + RutaReal(fichero) + FinLinea);
+} // namespace
+
+void AvisoNoEscribible(const std::string& ruta) {
+    std::string t = ReemplazarDolar(Mensajes[28], FinLinea + ruta + FinLinea);
     if (!t.empty()) MostrarMensaje("Quintarena", t, kIconoInformacion);
 }
-
-} // namespace
 
 int CMensaje::Muestra() {
     ResultadoMensaje = Presentador() ? Presentador()(*this) : CajaReal(*this);
@@ -85,6 +85,10 @@ int MostrarMensaje(const std::string& titulo, const std::string& texto, int icon
     mensaje.Titulo = titulo;
     mensaje.Texto = TextoMensaje(texto);
     return mensaje.Muestra();
+}
+
+int MostrarMensajeNumero(int numero, int icono, int botones, int extra) {
+    return MostrarMensaje(kTituloMensajes, std::to_string(numero), icono, botones, extra);
 }
 
 void FijarPresentadorMensajes(PresentadorMensajes presentador) {
@@ -122,7 +126,7 @@ RespuestaDialogo DialogoFichero(int modo, const std::string& titulo, const std::
     if (Dialogos()) return Dialogos()(modo, titulo);
     QStringList lista;
     for (const auto& [etiqueta, patron] : filtros) lista << Q(NombreFiltro(etiqueta, patron));
-    QFileDialog d(Forms().mdi, Q(titulo), Q(RutaReal(dir)));
+    QFileDialog d(Forms().mdi, Q(titulo), Q(RutaUsuario(dir)));
     // Qt's own dialog, so that it speaks the program's language and not the desktop's.
     d.setOption(QFileDialog::DontUseNativeDialog);
     d.setNameFilters(lista);
@@ -143,20 +147,12 @@ void FijarPresentadorDialogos(PresentadorDialogos presentador) {
     Dialogos() = std::move(presentador);
 }
 
-bool QuitarSoloLectura(const std::string& fichero) {
-    namespace fs = std::filesystem;
-    std::error_code ec;
-    const std::string ruta = RutaReal(fichero);
-    if (!fs::exists(ruta, ec)) return true;
-    fs::permissions(ruta, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add,
-                    ec);
-    return !ec;
-}
-
 void GuardarImagen() {
     auto r =
         DialogoFichero(2, Mensajes[49], "Quintarena", {{"Mapa de bits (*.bmp)", "*.bmp"}}, 1, "");
     if (r.fichero.empty()) return;
+    // The one type the dialog offers, as a save dialog adds it.
+    if (std::filesystem::path(r.fichero).extension().empty()) r.fichero += ".bmp";
     if (!QuitarSoloLectura(r.fichero)) {
         AvisoNoEscribible(r.fichero);
         return;
@@ -164,11 +160,15 @@ void GuardarImagen() {
     QWidget* picBuffer = Enlace().ImagenTablero ? Enlace().ImagenTablero()
                          : Forms().quintarena   ? Forms().quintarena->PicBuffer()
                                                 : nullptr;
-    if (!picBuffer || !picBuffer->grab().save(Q(RutaReal(r.fichero)), "BMP")) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!picBuffer || !picBuffer->grab().save(&buffer, "BMP") ||
+        !EscribirFichero(r.fichero, std::string_view(bytes.constData(),
+                                                     static_cast<std::size_t>(bytes.size())))) {
         AvisoNoEscribible(r.fichero);
         return;
     }
-    MostrarMensaje("Quintarena", "37", kIconoInformacion);
+    MostrarMensajeNumero(37, kIconoInformacion);
 }
 
 void GuardarChat() {
@@ -180,14 +180,13 @@ void GuardarChat() {
         AvisoNoEscribible(r.fichero);
         return;
     }
-    QFile f(Q(RutaReal(r.fichero)));
     const QByteArray texto = Forms().chat ? Forms().chat->TextoChat().toUtf8() : QByteArray();
-    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate) || f.write(texto) != texto.size()) {
+    if (!EscribirFichero(r.fichero, std::string_view(texto.constData(),
+                                                     static_cast<std::size_t>(texto.size())))) {
         AvisoNoEscribible(r.fichero);
         return;
     }
-    f.close();
-    MostrarMensaje("Quintarena", "33", kIconoInformacion);
+    MostrarMensajeNumero(33, kIconoInformacion);
 }
 
 void MenuContextual(QMenu* menu) {

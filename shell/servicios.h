@@ -1,6 +1,8 @@
 #pragma once
 // Small services all of the program shares: message boxes, sounds, file dialogs, saving the
 // chat and the board picture, popup menus and the high-resolution timer.
+#include "platform/mensajes.h"
+
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -10,14 +12,6 @@
 class QMenu;
 
 namespace qa {
-
-inline constexpr int kIconoStop = 16;
-inline constexpr int kIconoPregunta = 32;
-inline constexpr int kIconoInformacion = 64;
-inline constexpr int kBotonesSiNo = 4;
-inline constexpr int kSegundoPorDefecto = 256;
-inline constexpr int kRespuestaSi = 6;
-inline constexpr int kRespuestaNo = 7;
 
 class CMensaje {
 public:
@@ -32,6 +26,9 @@ extern int ResultadoMensaje;
 // `texto` is a message number ("70") or a plain text; see TextoMensaje.
 int MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones = 0,
                    int extra = 0);
+
+// Message `numero` of the language under the program's title; the answer as MostrarMensaje's.
+int MostrarMensajeNumero(int numero, int icono, int botones = 0, int extra = 0);
 
 // Tests answer the boxes themselves; nothing set means a real box.
 using PresentadorMensajes = std::function<int(const CMensaje&)>;
@@ -55,8 +52,8 @@ RespuestaDialogo DialogoFichero(int modo, const std::string& titulo, const std::
 using PresentadorDialogos = std::function<RespuestaDialogo(int modo, const std::string& titulo)>;
 void FijarPresentadorDialogos(PresentadorDialogos presentador);
 
-// Clears the read-only mark of an existing file; a missing file is fine.
-bool QuitarSoloLectura(const std::string& fichero);
+// Message 28, the file that cannot be written standing for its "$".
+void AvisoNoEscribible(const std::string& ruta);
 
 void GuardarImagen();
 void GuardarChat();

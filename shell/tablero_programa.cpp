@@ -137,7 +137,7 @@ void CrearTablero() {
 bool PartidaOcupada() {
     if (listas().ListaPgnVisible() || EditandoTablero) return true;
     if (Cargando) {
-        MostrarMensaje("Quintarena", "80", kIconoInformacion);
+        MostrarMensajeNumero(80, kIconoInformacion);
         return true;
     }
     return false;
@@ -186,7 +186,7 @@ void InstalarTablero() {
             // A skin drawn for another square size: offer its size.
             const QSize s = v->TamanoSkin();
             if (s.isValid() && s.height() != TamanoOpciones() &&
-                MostrarMensaje("Quintarena", "64", kIconoPregunta, kBotonesSiNo) == 6)
+                MostrarMensajeNumero(64, kIconoPregunta, kBotonesSiNo) == kRespuestaSi)
                 op->FijarTamano(std::to_string(s.width()));
         }
         v->PonerTamano(TamanoOpciones(), !base);
@@ -202,9 +202,9 @@ void InstalarTablero() {
     };
     en.Comandos["mnuSetTablero"] = [] {
         if (Variables::Conectado) {
-            MostrarMensaje("Quintarena", "83", kIconoInformacion);
+            MostrarMensajeNumero(83, kIconoInformacion);
         } else if (motor().CpuVisible()) {
-            MostrarMensaje("Quintarena", "84", kIconoInformacion);
+            MostrarMensajeNumero(84, kIconoInformacion);
         } else if (T().set) {
             T().set->show();
             T().set->raise();

@@ -13,6 +13,7 @@
 #include "files/pgn_moves.h"
 #include "files/pgn_scanner.h"
 #include "files/qtr_replay.h"
+#include "platform/texto.h"
 
 #include <algorithm>
 #include <cctype>
@@ -28,12 +29,6 @@ std::string Bandera(bool b) {
     return b ? "-1" : "0";
 }
 
-std::string Minusculas(std::string s) {
-    std::transform(s.begin(), s.end(), s.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-    return s;
-}
-
 using Lector = std::function<std::string()>;
 
 // The scalar variables of the shared state, by name.
@@ -41,13 +36,13 @@ const std::map<std::string, Lector>& TablaVariables() {
     static const std::map<std::string, Lector> tabla = [] {
         std::map<std::string, Lector> t;
         auto b = [&](const char* n, const bool& v) {
-            t[Minusculas(n)] = [&v] { return Bandera(v); };
+            t[qa::Minusculas(n)] = [&v] { return Bandera(v); };
         };
         auto i = [&](const char* n, const auto& v) {
-            t[Minusculas(n)] = [&v] { return std::to_string(v); };
+            t[qa::Minusculas(n)] = [&v] { return std::to_string(v); };
         };
         auto s = [&](const char* n, const std::string& v) {
-            t[Minusculas(n)] = [&v] { return v; };
+            t[qa::Minusculas(n)] = [&v] { return v; };
         };
         s("Origen", Origen);
         s("Destino", Destino);
@@ -254,7 +249,7 @@ void SesionCli::Probar(const std::string& arg) {
 
 void SesionCli::Obtener(const std::string& nombre) {
     const auto& tabla = TablaVariables();
-    auto it = tabla.find(Minusculas(nombre));
+    auto it = tabla.find(qa::Minusculas(nombre));
     if (it == tabla.end()) {
         salida_ << "error unknown variable: " << nombre << '\n';
         return;

@@ -1,4 +1,5 @@
 #include "language/idioma.h"
+#include "platform/escritura.h"
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/texto.h"
@@ -17,6 +18,7 @@ bool CargarIdioma() {
     auto exe = std::filesystem::read_symlink("/proc/self/exe", ec);
     if (ec) return false;
     qa::FijarDirectorioPrograma(exe.parent_path().string());
+    qa::LimpiarTemporales(exe.parent_path().string());
     std::string idioma = qa::LeerIni(qa::FicheroOpciones, "Configuracion", "Idioma");
     if (idioma.empty()) idioma = "Español";
     qa::FijarIdioma(qa::Minusculas(idioma) + ".lng");

@@ -9,6 +9,8 @@
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <array>
+#include <cstdint>
 #include <gtest/gtest.h>
 
 namespace {
@@ -71,12 +73,31 @@ TEST_F(ColoresTest, OtherGroupsAreLeftAlone) {
     EXPECT_TRUE(Fondo().isNull());
 }
 
-TEST_F(ColoresTest, ColourKeyMustReadAsThreeValues) {
-    qa::LeerColor("1:2:3");
-    for (const char* malo : {"1:2", "300:0:0", "a:b:c", "", "-1:0:0", "1:2:3:4"})
-        EXPECT_FALSE(qa::LeerColor(malo)) << malo;
-    EXPECT_EQ(qa::ColorR, 1);
-    EXPECT_EQ(qa::ColorB, 3);
+TEST_F(ColoresTest, ColourKeyIsReadOneCharacterAtATime) {
+    auto leido = [](const char* texto) {
+        qa::ColorR = qa::ColorG = qa::ColorB = 9;
+        qa::LeerColor(texto);
+        return std::array<std::int32_t, 3>{qa::ColorR, qa::ColorG, qa::ColorB};
+    };
+    using C = std::array<std::int32_t, 3>;
+    EXPECT_EQ(leido("255:0:0"), (C{255, 0, 0}));
+    EXPECT_EQ(leido("1:2"), (C{1, 2, 0}));
+    EXPECT_EQ(leido("12:x4:5:6:7"), (C{12, 4, 5}));
+    EXPECT_EQ(leido(""), (C{0, 0, 0}));
+    EXPECT_EQ(leido("300:0:0"), (C{300, 0, 0})) << "no clamp here";
+    // A digit that would take a field past 32 bits is passed over.
+    EXPECT_EQ(leido("99999999999:1:1"), (C{999999999, 1, 1}));
+    EXPECT_EQ(leido("2147483647:0:0"), (C{2147483647, 0, 0}));
+}
+
+TEST_F(ColoresTest, HugeBaseColourPaintsClippedWithoutOverflow) {
+    qa::LeerColor("2147483647:0:0");
+    qa::Fondo = 1;
+    qa::PintarFormularios(2);
+    const QImage f = Fondo();
+    EXPECT_EQ(QColor(f.pixel(0, 40)), QColor(255, 0, 0));
+    EXPECT_EQ(QColor(f.pixel(60, 1)), QColor(255, 40, 40));
+    EXPECT_EQ(QColor(f.pixel(60, 40)), QColor(255, 200, 200));
 }
 
 TEST_F(ColoresTest, DialogPreviewsAtOnceAndCancelPutsItBack) {

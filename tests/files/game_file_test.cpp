@@ -7,7 +7,9 @@
 #include "files/qtr_replay.h"
 #include "files_support.h"
 
+#include <filesystem>
 #include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Variables;
 
@@ -147,12 +149,16 @@ TEST_F(Fichero, ReadOnlyTargetIsOverwritten) {
 }
 
 TEST_F(Fichero, FailedWriteKeepsTheOldFile) {
-    if (geteuid() == 0) GTEST_SKIP() << "root writes anywhere";
     Nueva();
     const std::string ruta = Escribir("viejo.qtr", "old");
-    chmod(dir.c_str(), 0555);
+    // A folder with a file in it where the temporary file goes: not even root gets past it.
+    const std::string estorbo = dir + "/.viejo.qtr." + std::to_string(getpid()) + ".tmp";
+    std::filesystem::create_directory(estorbo);
+    Escribir(".viejo.qtr." + std::to_string(getpid()) + ".tmp/x", "x");
     EXPECT_EQ(GuardarPartida(ruta), Guardado::Fallo);
-    chmod(dir.c_str(), 0755);
+    EXPECT_EQ(Leer(ruta), "old");
+    // A name under a regular file.
+    EXPECT_EQ(GuardarPartida(ruta + "/nueva.qtr"), Guardado::Fallo);
     EXPECT_EQ(Leer(ruta), "old");
 }
 

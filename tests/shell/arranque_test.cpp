@@ -31,6 +31,8 @@
 #include <QToolBar>
 #include <gtest/gtest.h>
 #include <regex>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace fs = std::filesystem;
 using namespace qa;
@@ -146,6 +148,23 @@ TEST(Programa, MissingSettingsEndTheStartAndCreateNothing) {
     EXPECT_EQ(cajas.vistas[0].texto, "El fichero Default.ini no se ha encontrado.");
     EXPECT_FALSE(fs::exists(c.Ruta("Default.ini")));
     EXPECT_FALSE(fs::exists(c.Ruta("Puntuacion.dat")));
+}
+
+TEST(Programa, StartRemovesTemporaryFilesOfGoneCopiesOnly) {
+    Carpeta c;
+    Cajas cajas;
+    const pid_t hijo = ::fork();
+    ASSERT_GE(hijo, 0);
+    if (hijo == 0) ::_exit(0);
+    ASSERT_EQ(::waitpid(hijo, nullptr, 0), hijo);
+    const std::string muerto = ".Default.ini." + std::to_string(hijo) + ".tmp";
+    const std::string vivo = ".Default.ini." + std::to_string(::getppid()) + ".tmp";
+    c.Escribir(muerto, "[Mdi]\r\n");
+    c.Escribir(vivo, "[Mdi]\r\n");
+    fs::remove(c.Ruta("Default.ini")); // the start ends early: the folder is cleaned first
+    EXPECT_FALSE(Main({"quintarena"}));
+    EXPECT_FALSE(fs::exists(c.Ruta(muerto)));
+    EXPECT_TRUE(fs::exists(c.Ruta(vivo)));
 }
 
 TEST(Programa, NoMatchingLanguageEndsTheProgram) {

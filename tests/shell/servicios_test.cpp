@@ -1,6 +1,7 @@
 // Common services, settings read into the controls, commands of the menu and the toolbar.
 #include "prueba_programa.h"
 
+#include "board/colores.h"
 #include "core/game_state.h"
 #include "core/recorder.h"
 #include "language/idioma.h"
@@ -107,25 +108,13 @@ TEST_F(Arrancado, SettingsReadIntoTheControls) {
     Marcar("mnuReloj", true);
     LeerOpciones();
     auto& k = Controles();
-    EXPECT_EQ(k.ColorR, 255);
-    EXPECT_EQ(k.ColorG, 0);
-    EXPECT_EQ(k.ColorB, 0);
+    EXPECT_EQ(ColorR, 255);
+    EXPECT_EQ(ColorG, 0);
+    EXPECT_EQ(ColorB, 0);
     EXPECT_EQ(k.Level2Option, 0);
     EXPECT_EQ(k.NuevoText1, "1");
     EXPECT_TRUE(Forms().opciones->Check(2));
     EXPECT_TRUE(Marcada("mnuReloj"));
-
-    long r = 9, g = 9, b = 9;
-    LeerColor("1:2", r, g, b);
-    EXPECT_EQ(r, 1);
-    EXPECT_EQ(g, 2);
-    EXPECT_EQ(b, 0);
-    LeerColor("12:x4:5:6:7", r, g, b);
-    EXPECT_EQ(r, 12);
-    EXPECT_EQ(g, 4);
-    EXPECT_EQ(b, 5);
-    LeerColor("99999999999:1:1", r, g, b); // too big for a field: it stops growing
-    EXPECT_EQ(r, 999999999);
 }
 
 TEST_F(Arrancado, SquareSizeIsWrittenAsTypedAndUsedClamped) {
@@ -213,6 +202,21 @@ TEST_F(Arrancado, SavedChatAndPictureGoThroughTheDialog) {
     EXPECT_GT(fs::file_size(c.Ruta("Tablero.bmp")), 0u);
     EXPECT_EQ(cajas.vistas.back().texto, Mensajes[37]);
     FijarPresentadorDialogos(nullptr);
+}
+
+TEST_F(Arrancado, PictureSavedUnderTheSuggestedNameNeverTouchesTheProgram) {
+    // The suggested name differs from the program's own file only in case.
+    c.Escribir("quintarena", "el programa");
+    FijarPresentadorDialogos([this](int, const std::string&) {
+        RespuestaDialogo r;
+        r.fichero = c.Ruta("Quintarena").string();
+        return r;
+    });
+    Entrada("mnuGuararImagen")->trigger();
+    FijarPresentadorDialogos(nullptr);
+    EXPECT_EQ(c.Leer("quintarena"), "el programa");
+    EXPECT_EQ(c.Leer("Quintarena.bmp").substr(0, 2), "BM");
+    EXPECT_EQ(cajas.vistas.back().texto, Mensajes[37]);
 }
 
 TEST_F(Arrancado, AboutBoxAndItsClose) {

@@ -209,6 +209,24 @@ TEST_F(ProgramaConTablero, SavedGameFileReplaysOnTheBoardByItsTimers) {
     FijarPresentadorDialogos(nullptr);
 }
 
+TEST_F(ProgramaConTablero, GameFileWithABackslashInItsNameOpens) {
+    // A legal letter in a name here; only the program's own texts use it between folders.
+    carpeta.Escribir("Ana\\final.qtr", "0000\r\n0000\r\nA\r\n5254\r\n5755\r\n");
+    FijarPresentadorDialogos([&](int, const std::string&) {
+        RespuestaDialogo r;
+        r.fichero = carpeta.Ruta("Ana\\final.qtr").string();
+        r.carpeta = carpeta.Ruta().string();
+        return r;
+    });
+    Entrada("mnuAbrirPartida")->trigger();
+    FijarPresentadorDialogos(nullptr);
+    EXPECT_TRUE(Cargando) << "the replay runs";
+    ASSERT_TRUE(prueba::Esperar([] { return !Cargando; }, 10000));
+    EXPECT_FALSE(cajas.Hay(Mensajes[27]));
+    EXPECT_EQ(Tablero[5][4], PeonB);
+    EXPECT_EQ(Tablero[5][5], PeonN);
+}
+
 TEST_F(ProgramaConTablero, PgnCollectionOpensInTheBrowserAndPlaysOnTheBoard) {
     AbrirPgn();
     EXPECT_FALSE(Forms().jugadas->isVisible()) << "the browser holds the panels";
