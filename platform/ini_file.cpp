@@ -122,10 +122,10 @@ std::string Valor(std::string_view texto) {
     return Izquierda(v, kLargoMaximoValor);
 }
 
-bool Guardar(const std::string& ruta, const Fichero& f) {
+std::string Bytes(const Fichero& f) {
     std::string bytes;
     for (const auto& l : f.lineas) bytes += l.bruta + l.fin;
-    return EscribirFichero(ruta, bytes);
+    return bytes;
 }
 
 } // namespace
@@ -152,7 +152,8 @@ bool EscribirIni(const std::string& fichero, const std::string& seccion, const s
     if (Recortar(seccion).empty() || Recortar(clave).empty()) return false;
     const std::string ruta = RutaEscritura(fichero);
     Fichero f;
-    Cargar(ruta, f);
+    const bool existia = Cargar(ruta, f);
+    const std::string antes = Bytes(f);
     // A line end inside a value would make a new line of the file.
     std::string v = valor.substr(0, valor.find_first_of("\r\n"));
     auto codificar = [&](const std::string& s) { return f.latin1 ? Utf8ALatin1(s) : s; };
@@ -184,7 +185,11 @@ bool EscribirIni(const std::string& fichero, const std::string& seccion, const s
         f.lineas.push_back({codificar("[" + seccion + "]"), f.finLinea, "[" + seccion + "]"});
         f.lineas.push_back({codificar(clave + "=" + v), f.finLinea, clave + "=" + v});
     }
-    return Guardar(ruta, f);
+    // Each safe write reaches the disk, and the close writes every key: a value that is
+    // already there costs nothing.
+    const std::string despues = Bytes(f);
+    if (existia && despues == antes) return true;
+    return EscribirFichero(ruta, despues);
 }
 
 } // namespace qa

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace fs = std::filesystem;
@@ -108,6 +109,21 @@ TEST_F(Ini, Latin1FilesReadAsUtf8AndStayLatin1) {
 TEST_F(Ini, Utf8FileWithBom) {
     Escribir("\xEF\xBB\xBF[Version]\nVersion=1.55\n");
     EXPECT_EQ(LeerIni(fichero, "Version", "Version"), "1.55");
+}
+
+TEST_F(Ini, ValueAlreadyThereLeavesTheFileAlone) {
+    Escribir("[S]\r\nk=v\r\n");
+    auto inodo = [&] {
+        struct stat st {};
+        ::stat(fichero.c_str(), &st);
+        return st.st_ino;
+    };
+    const auto antes = inodo();
+    EXPECT_TRUE(EscribirIni(fichero, "S", "k", "v"));
+    EXPECT_EQ(inodo(), antes) << "not written again";
+    EXPECT_TRUE(EscribirIni(fichero, "S", "k", "w"));
+    EXPECT_NE(inodo(), antes);
+    EXPECT_EQ(Contenido(), "[S]\r\nk=w\r\n");
 }
 
 TEST_F(Ini, EmptyValueFromLanguageFileRaisesTheAlarm) {
