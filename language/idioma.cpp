@@ -103,7 +103,9 @@ ListaIdiomas LlenarIdiomas(const std::string& ajuste) {
     fs::directory_iterator it(RutaReal(DirectorioPrograma), ec);
     for (; !ec && it != fs::directory_iterator(); it.increment(ec)) {
         std::string n = it->path().filename().string();
-        if (TerminaEn(Minusculas(n), ".lng") && it->is_regular_file(ec)) ficheros.push_back(n);
+        // A FIFO or a file we may not read is listed, and fails its version check.
+        std::error_code ecTipo;
+        if (TerminaEn(Minusculas(n), ".lng") && !it->is_directory(ecTipo)) ficheros.push_back(n);
     }
     // By name, case aside; then the files the setting names move behind the others. The
     // reading below leaves the last file current and the choice never looks at the first

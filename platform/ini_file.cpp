@@ -4,10 +4,17 @@
 #include "platform/ruta.h"
 #include "platform/texto.h"
 
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
 #include <fstream>
-#include <iterator>
-#include <sstream>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <unordered_map>
 #include <vector>
+
+namespace fs = std::filesystem;
 
 namespace qa {
 
@@ -40,10 +47,34 @@ struct Fichero {
     std::vector<Linea> lineas;
 };
 
-bool Cargar(const std::string& ruta, Fichero& f) {
-    std::ifstream in(ruta, std::ios::binary);
-    if (!in) return false;
-    std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+// Only a regular file is read: a FIFO would block the start, a directory or a device has no
+// text of ours. A file that large is no settings file either.
+constexpr off_t kTamanoMaximo = 64 << 20;
+
+bool LeerBytes(const std::string& ruta, std::string& bytes, struct stat& st) {
+    const int fd = ::open(ruta.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0) return false;
+    bool bien = ::fstat(fd, &st) == 0 && S_ISREG(st.st_mode) && st.st_size <= kTamanoMaximo;
+    if (bien) {
+        bytes.resize(static_cast<std::size_t>(st.st_size));
+        std::size_t hecho = 0;
+        for (;;) {
+            if (hecho == bytes.size()) bytes.resize(hecho + 4096); // grew while we read
+            const ssize_t n = ::read(fd, bytes.data() + hecho, bytes.size() - hecho);
+            if (n < 0 && errno == EINTR) continue;
+            if (n <= 0 || hecho + static_cast<std::size_t>(n) > kTamanoMaximo) {
+                bien = n == 0;
+                break;
+            }
+            hecho += static_cast<std::size_t>(n);
+        }
+        bytes.resize(hecho);
+    }
+    ::close(fd);
+    return bien;
+}
+
+void Partir(const std::string& bytes, Fichero& f) {
     f.latin1 = !EsUtf8(bytes);
     bool finVisto = false;
     std::size_t i = 0;
@@ -68,6 +99,13 @@ bool Cargar(const std::string& ruta, Fichero& f) {
         if (f.lineas.empty() && l.texto.rfind("\xEF\xBB\xBF", 0) == 0) l.texto.erase(0, 3);
         f.lineas.push_back(std::move(l));
     }
+}
+
+bool Cargar(const std::string& ruta, Fichero& f) {
+    std::string bytes;
+    struct stat st {};
+    if (!LeerBytes(ruta, bytes, st)) return false;
+    Partir(bytes, f);
     return true;
 }
 
@@ -128,6 +166,102 @@ std::string Bytes(const Fichero& f) {
     return bytes;
 }
 
+// The parsed copy of a file, kept while the file on disk is the one it was read from: same
+// inode, size and times. Our own writes drop it at once, so a read always sees the last write.
+struct Sello {
+    dev_t dev = 0;
+    ino_t ino = 0;
+    off_t tamano = -1;
+    timespec mtim{}, ctim{};
+    bool operator==(const Sello& o) const {
+        return dev == o.dev && ino == o.ino && tamano == o.tamano && mtim.tv_sec == o.mtim.tv_sec &&
+               mtim.tv_nsec == o.mtim.tv_nsec && ctim.tv_sec == o.ctim.tv_sec &&
+               ctim.tv_nsec == o.ctim.tv_nsec;
+    }
+};
+
+Sello SelloDe(const struct stat& st) {
+    return {st.st_dev, st.st_ino, st.st_size, st.st_mtim, st.st_ctim};
+}
+
+struct Copia {
+    Sello sello;
+    // Lower-cased section, lower-cased key: the value of the first of each.
+    std::unordered_map<std::string, std::unordered_map<std::string, std::string>> valores;
+};
+
+std::unordered_map<std::string, Copia>& Copias() {
+    static std::unordered_map<std::string, Copia> copias;
+    return copias;
+}
+
+// The name looked up without regard to case, kept while its folder is unchanged.
+struct Resuelta {
+    std::string real;
+    Sello carpeta;
+};
+
+std::unordered_map<std::string, Resuelta>& Resueltas() {
+    static std::unordered_map<std::string, Resuelta> r;
+    return r;
+}
+
+std::string Resolver(const std::string& fichero) {
+    struct stat st {};
+    if (::stat(fichero.c_str(), &st) == 0) return fichero;
+    const std::string carpeta = fs::path(fichero).parent_path().string();
+    struct stat sc {};
+    const bool hayCarpeta = ::stat(carpeta.empty() ? "." : carpeta.c_str(), &sc) == 0;
+    auto& r = Resueltas();
+    auto it = r.find(fichero);
+    if (hayCarpeta && it != r.end() && it->second.carpeta == SelloDe(sc)) return it->second.real;
+    std::string real = RutaReal(fichero);
+    if (hayCarpeta) r[fichero] = {real, SelloDe(sc)};
+    return real;
+}
+
+void Indexar(const Fichero& f, Copia& c) {
+    std::unordered_map<std::string, std::string>* actual = nullptr;
+    for (const auto& l : f.lineas) {
+        if (auto s = Seccion(l.texto)) {
+            auto [it, nueva] = c.valores.try_emplace(Minusculas(*s));
+            // Only the first section of a name is ever read.
+            actual = nueva ? &it->second : nullptr;
+            continue;
+        }
+        if (actual && EsClave(l.texto))
+            actual->try_emplace(Minusculas(Clave(l.texto)), Valor(l.texto));
+    }
+}
+
+const Copia* CopiaDe(const std::string& fichero) {
+    const std::string ruta = Resolver(fichero);
+    auto& copias = Copias();
+    struct stat st {};
+    if (::stat(ruta.c_str(), &st) != 0 || !S_ISREG(st.st_mode)) {
+        copias.erase(ruta);
+        return nullptr;
+    }
+    auto it = copias.find(ruta);
+    if (it != copias.end() && it->second.sello == SelloDe(st)) return &it->second;
+    std::string bytes;
+    if (!LeerBytes(ruta, bytes, st)) {
+        copias.erase(ruta);
+        return nullptr;
+    }
+    Fichero f;
+    Partir(bytes, f);
+    Copia c;
+    c.sello = SelloDe(st);
+    Indexar(f, c);
+    return &(copias[ruta] = std::move(c));
+}
+
+// After a write of ours: whatever name it went by, no copy may outlive it.
+void Olvidar() {
+    Copias().clear();
+}
+
 } // namespace
 
 void FijarAvisoIdiomaIncorrecto(AvisoIdiomaIncorrecto aviso) {
@@ -137,14 +271,20 @@ void FijarAvisoIdiomaIncorrecto(AvisoIdiomaIncorrecto aviso) {
 std::string LeerIni(const std::string& fichero, const std::string& seccion,
                     const std::string& clave) {
     std::string valor;
-    Fichero f;
-    std::size_t inicio = 0, fin = 0;
-    if (Cargar(RutaReal(fichero), f) && BuscarSeccion(f, seccion, inicio, fin)) {
-        if (auto i = BuscarClave(f, inicio, fin, clave)) valor = Valor(f.lineas[*i].texto);
+    if (const Copia* c = CopiaDe(fichero)) {
+        auto s = c->valores.find(Minusculas(seccion));
+        if (s != c->valores.end()) {
+            auto k = s->second.find(Minusculas(clave));
+            if (k != s->second.end()) valor = k->second;
+        }
     }
     if (valor.empty() && TerminaEn(fichero, "lng") && Minusculas(seccion) != "autor" && Aviso())
         Aviso()();
     return valor;
+}
+
+bool IniLegible(const std::string& fichero) {
+    return !fichero.empty() && CopiaDe(fichero) != nullptr;
 }
 
 bool EscribirIni(const std::string& fichero, const std::string& seccion, const std::string& clave,
@@ -189,7 +329,9 @@ bool EscribirIni(const std::string& fichero, const std::string& seccion, const s
     // already there costs nothing.
     const std::string despues = Bytes(f);
     if (existia && despues == antes) return true;
-    return EscribirFichero(ruta, despues);
+    const bool hecho = EscribirFichero(ruta, despues);
+    Olvidar();
+    return hecho;
 }
 
 } // namespace qa

@@ -2,6 +2,8 @@
 // Settings and language files: sections in brackets and key=value lines, read and written key by
 // key as the private-profile calls do. Sections and keys are found without regard to case, the
 // first of duplicates wins, a missing key reads as empty, a value is cut at 255 characters.
+// A parsed copy of each file is kept while the file is unchanged on disk, so reading many keys
+// costs one read of the file.
 // A write keeps every other byte of the file, and goes through a temporary file and a rename so
 // that the file is never left half written.
 #include <functional>
@@ -13,6 +15,10 @@ constexpr std::size_t kLargoMaximoValor = 255;
 
 std::string LeerIni(const std::string& fichero, const std::string& seccion,
                     const std::string& clave);
+
+// True when the file is a regular file that can be read: a folder, a FIFO, a device or a file
+// we may not read is no settings or language file, and counts as missing.
+bool IniLegible(const std::string& fichero);
 
 // False when the file could not be written; the old file then stands as it was.
 bool EscribirIni(const std::string& fichero, const std::string& seccion, const std::string& clave,

@@ -61,7 +61,9 @@ bool ExisteFichero(const std::string& fichero) {
         MostrarMensaje("Quintarena", idioma + ".lng" + " no se ha encontrado.", kIconoInformacion);
         if (Forms().mdi) Forms().mdi->Descargar();
     }
-    if (ExisteRuta(fichero)) return true;
+    // A settings or language file must be a file we can read: a folder or a FIFO is not one.
+    const bool texto = TerminaEn(fichero, "ini") || TerminaEn(fichero, "lng");
+    if (texto ? IniLegible(fichero) : ExisteRuta(fichero)) return true;
     // Built and kept back: the callers that care say so themselves.
     const std::string aviso = ReemplazarDolar(Mensajes[63], FinLinea + fichero + FinLinea);
     if (TerminaEn(fichero, "ini") && Mensajes[63].empty())

@@ -31,6 +31,7 @@
 #include <QToolBar>
 #include <gtest/gtest.h>
 #include <regex>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -165,6 +166,36 @@ TEST(Programa, StartRemovesTemporaryFilesOfGoneCopiesOnly) {
     EXPECT_FALSE(Main({"quintarena"}));
     EXPECT_FALSE(fs::exists(c.Ruta(muerto)));
     EXPECT_TRUE(fs::exists(c.Ruta(vivo)));
+}
+
+TEST(Programa, SettingsThatAreAFolderOrAFifoCountAsMissing) {
+    ::alarm(60); // waiting on the FIFO would hang the run
+    for (bool fifo : {false, true}) {
+        Carpeta c;
+        Cajas cajas;
+        fs::remove(c.Ruta("Default.ini"));
+        if (fifo)
+            ASSERT_EQ(::mkfifo(c.Ruta("Default.ini").c_str(), 0600), 0);
+        else
+            fs::create_directory(c.Ruta("Default.ini"));
+        EXPECT_FALSE(Main({"quintarena"})) << fifo;
+        ASSERT_EQ(cajas.vistas.size(), 1u) << fifo;
+        EXPECT_EQ(cajas.vistas[0].texto, "El fichero Default.ini no se ha encontrado.");
+        EXPECT_EQ(fs::is_fifo(c.Ruta("Default.ini")), fifo);
+        EXPECT_EQ(fs::is_directory(c.Ruta("Default.ini")), !fifo);
+        EXPECT_FALSE(fs::exists(c.Ruta("Puntuacion.dat")));
+    }
+    ::alarm(0);
+}
+
+TEST(Programa, AFifoAsTheFirstLanguageFileFailsItsVersionCheck) {
+    ::alarm(60);
+    Carpeta c;
+    Cajas cajas;
+    ASSERT_EQ(::mkfifo(c.Ruta("Alemán.lng").c_str(), 0600), 0);
+    EXPECT_FALSE(Main({"quintarena"}));
+    EXPECT_TRUE(cajas.Hay("Versión del idioma incorrecto."));
+    ::alarm(0);
 }
 
 TEST(Programa, NoMatchingLanguageEndsTheProgram) {

@@ -141,6 +141,44 @@ TEST_F(Ini, EmptyValueFromLanguageFileRaisesTheAlarm) {
     EXPECT_EQ(avisos, 2);
 }
 
+TEST_F(Ini, FoldersFifosAndDevicesReadAsMissing) {
+    ::alarm(60); // a read that waits for a FIFO's writer ends the run instead of hanging it
+    fs::create_directory(dir / "Carpeta.ini");
+    ASSERT_EQ(::mkfifo((dir / "Tubo.ini").c_str(), 0600), 0);
+    fs::create_symlink("/dev/zero", dir / "Cero.ini");
+    for (const char* n : {"Carpeta.ini", "Tubo.ini", "Cero.ini", "Falta.ini"}) {
+        const std::string f = (dir / n).string();
+        EXPECT_EQ(LeerIni(f, "S", "k"), "") << n;
+        EXPECT_FALSE(IniLegible(f)) << n;
+    }
+    ::alarm(0);
+    Escribir("[S]\nk=v\n");
+    EXPECT_TRUE(IniLegible(fichero));
+}
+
+TEST_F(Ini, EveryReadSeesTheLastWriteOursOrAnotherProgramsToo) {
+    Escribir("[S]\nk=1\n");
+    EXPECT_EQ(LeerIni(fichero, "S", "k"), "1");
+    EXPECT_TRUE(EscribirIni(fichero, "S", "k", "2"));
+    EXPECT_EQ(LeerIni(fichero, "S", "k"), "2");
+    // Another program replaces the file, as editors do, with one of the same size.
+    std::ofstream((dir / "nuevo").string(), std::ios::binary) << "[S]\nk=3\n";
+    fs::rename(dir / "nuevo", fichero);
+    EXPECT_EQ(LeerIni(fichero, "S", "k"), "3");
+    // ... or rewrites it where it stands.
+    Escribir("[S]\nk=4\nj=5\n");
+    EXPECT_EQ(LeerIni(fichero, "S", "j"), "5");
+    EXPECT_EQ(LeerIni(fichero, "S", "k"), "4");
+    fs::remove(fichero);
+    EXPECT_EQ(LeerIni(fichero, "S", "k"), "");
+    // A name found without regard to case follows the folder as it changes.
+    Escribir("[S]\nk=6\n", "OTRO.INI");
+    EXPECT_EQ(LeerIni((dir / "otro.ini").string(), "S", "k"), "6");
+    fs::remove(dir / "OTRO.INI");
+    Escribir("[S]\nk=7\n", "Otro.ini");
+    EXPECT_EQ(LeerIni((dir / "otro.ini").string(), "S", "k"), "7");
+}
+
 TEST(Texto, NumbersAndCase) {
     EXPECT_EQ(Minusculas("ÑANDÚ Á"), "ñandú á");
     EXPECT_TRUE(IgualSinCaso("TAMAÑO", "tamaño"));
