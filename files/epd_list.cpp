@@ -28,14 +28,25 @@ void NuevoAceptado() {
     EditandoTablero = false;
 }
 
+// Read to the end before any line goes through the position reader, which sets the board: a
+// file that cannot be read whole is left alone.
+bool Legible(const std::string& ruta) {
+    LectorLineas lector(ruta);
+    if (!lector.Abierto()) return false;
+    std::string_view linea;
+    while (lector.Siguiente(linea)) {
+    }
+    return !lector.Fallo();
+}
+
 } // namespace
 
 bool LeerEPD(const std::string& ruta) {
     Eventos.clear();
     EventosIndice = -1;
     EventosTag.clear();
+    if (!Legible(ruta)) return false;
     LectorLineas lector(ruta);
-    if (!lector.Abierto()) return false;
     std::string_view linea;
     while (lector.Siguiente(linea)) {
         PosicionFen.assign(linea);

@@ -17,10 +17,11 @@ constexpr size_t kCola = 4096;
 
 LectorLineas::LectorLineas(const std::string& ruta, uint64_t desde, uint64_t hasta)
     : hasta_(hasta), posicion_(desde) {
-    fd_ = ::open(ruta.c_str(), O_RDONLY | O_CLOEXEC);
+    // Not blocking: opening a FIFO must not wait for a writer before it is refused.
+    fd_ = ::open(ruta.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
     if (fd_ < 0) return;
     struct stat st {};
-    if (::fstat(fd_, &st) != 0 || S_ISDIR(st.st_mode)) {
+    if (::fstat(fd_, &st) != 0 || !S_ISREG(st.st_mode)) {
         ::close(fd_);
         fd_ = -1;
         return;
@@ -49,10 +50,15 @@ bool LectorLineas::Rellenar() {
         ini_ = 0;
     }
     if (fin_ == capacidad_) { // a line longer than the buffer
-        auto mayor = std::make_unique_for_overwrite<char[]>(capacidad_ * 2);
-        std::memcpy(mayor.get(), buf_.get(), fin_);
-        buf_ = std::move(mayor);
-        capacidad_ *= 2;
+        if (capacidad_ >= LectorLineas::kLargoMaximo) {
+            fallo_ = eof_ = true;
+            return false;
+        }
+        const size_t mayor = std::min(capacidad_ * 2, LectorLineas::kLargoMaximo);
+        auto nuevo = std::make_unique_for_overwrite<char[]>(mayor);
+        std::memcpy(nuevo.get(), buf_.get(), fin_);
+        buf_ = std::move(nuevo);
+        capacidad_ = mayor;
     }
     // Up to the range's end; past it, only small steps to finish the last line.
     const uint64_t desde = base_ + fin_;
@@ -87,7 +93,7 @@ bool LectorLineas::Siguiente(std::string_view& linea) {
             largo = static_cast<size_t>(static_cast<const char*>(nl) - p);
             salto = largo + 1;
         } else if (!Rellenar()) {
-            if (ini_ >= fin_) return false;
+            if (ini_ >= fin_ || fallo_) return false;
             largo = salto = fin_ - ini_; // the last line has no line end
             p = buf_.get() + ini_;
         } else {

@@ -4,6 +4,8 @@
 // over. The buffer grows only with the longest line, never with the file,
 // and a range is read no further than its end (and the rest of its last
 // line), so one game of a large collection costs its own size.
+// Only a regular file is read (a FIFO would block, a device never ends), and
+// one line may not pass kLargoMaximo bytes: reading stops there with Fallo().
 
 #include <cstdint>
 #include <memory>
@@ -13,6 +15,8 @@
 class LectorLineas {
 public:
     static constexpr uint64_t kFin = UINT64_MAX;
+    // Generous: a whole PGN game may stand on one line.
+    static constexpr size_t kLargoMaximo = size_t{256} << 20;
 
     // Lines whose first byte lies in [desde, hasta). A UTF-8 mark at the
     // start of the file is no part of its first line.
@@ -22,6 +26,8 @@ public:
     LectorLineas& operator=(const LectorLineas&) = delete;
 
     bool Abierto() const { return fd_ >= 0; }
+    // A line longer than kLargoMaximo was met; no line is returned from there on.
+    bool Fallo() const { return fallo_; }
     // The next line without its LF or CR LF; the view lives until the next call.
     bool Siguiente(std::string_view& linea);
     // Offset of the line last returned.
@@ -38,6 +44,7 @@ private:
     uint64_t hasta_;
     uint64_t posicion_ = 0;
     bool eof_ = false;
+    bool fallo_ = false;
 };
 
 // Whole-file helpers for the game files.

@@ -99,6 +99,25 @@ bool LineaDeCabecera(std::string_view linea) {
     return false;
 }
 
+// A file that cannot be read to its end lists nothing, as one that cannot be opened: what the
+// pass took from its first lines goes.
+void SinPartidas() {
+    indice = Indice{indice.ruta, {}, {}};
+    tabla.clear();
+    TotalPartidas = 0;
+    ListaPgn::Eventos.clear();
+    ListaPgn::EventosIndice = -1;
+    for (auto& t : ListaPgn::Text1) t.clear();
+    ListaPgn::Combo1.clear();
+    if (PgnConFen) {
+        PgnConFen = false;
+        VariablesCero();
+        PonerFichas();
+        Turno = 0;
+        dibujo().RedibujarTablero();
+    }
+}
+
 std::string HastaDosPuntos(const std::string& s) {
     const size_t p = s.find(':');
     return p == std::string::npos ? s : s.substr(0, p + 1);
@@ -132,6 +151,7 @@ void PrimeraPasada(const std::string& ruta) {
         // Reading the tags stops at a position; the list is still read to the end.
         if (!parado && cuenta == ListaPgn::EventosIndice && LineaDeCabecera(linea)) parado = true;
     }
+    if (lector.Fallo()) SinPartidas();
     const std::string& c = ListaPgn::EtiquetaCuenta;
     if (c.empty() || c.back() != '.')
         ListaPgn::EtiquetaCuenta +=

@@ -53,7 +53,7 @@ bool LeerTokens(const std::string& ruta, std::vector<std::string>& tokens) {
             i = fin + 1;
         } while (i <= linea.size());
     }
-    return true;
+    return !lector.Fallo();
 }
 
 void PonerRelojCero(int lado) {
