@@ -132,16 +132,23 @@ void Partir(const std::string& linea, std::string& orden, std::string& resto) {
 } // namespace
 
 // Message boxes become lines on standard error; the promotion form takes its default.
+// Nothing printed is kept, and sounds and results have nowhere to go: a session of any
+// length holds no record of what it showed.
 class SesionCli::Entorno : public EntornoRegistro {
 public:
     Entorno(std::ostream& errores, Traductor& traductor)
         : errores_(errores), traductor_(traductor) {}
-    void MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones,
-                        int extra) override {
-        EntornoRegistro::MostrarMensaje(titulo, texto, icono, botones, extra);
+    void MostrarMensaje(const std::string& titulo, const std::string& texto, int, int,
+                        int) override {
         errores_ << "message " << titulo << ": " << (traductor_ ? traductor_(texto) : texto)
                  << std::endl;
     }
+    void Sonar(int) override {}
+    void SumaDePartidas(int) override {}
+    void AvisoCargando(const std::string&) override {}
+    void ReiniciarRelojes() override {}
+    void MostrarVentanas() override {}
+    void CerrarListaPgn() override { listaPgnVisible = false; }
     // The text of a message that a caller adds to, as the game files do.
     std::string Mensaje(int n) override {
         return traductor_ ? traductor_(std::to_string(n)) : std::to_string(n);
@@ -299,6 +306,11 @@ void SesionCli::AbrirListaPgn(const std::string& ruta) {
 }
 
 void SesionCli::Pgn(const std::string& ruta) {
+    // As the open command: a file that is not there changes nothing.
+    if (!Ficheros::Existe(ruta)) {
+        salida_ << "0\n";
+        return;
+    }
     AbrirListaPgn(ruta);
     salida_ << TotalPartidas << '\n';
 }
@@ -317,8 +329,9 @@ void SesionCli::PgnPartida(const std::string& arg) {
         return;
     }
     const std::string ruta = arg.substr(0, blanco);
-    if (FicheroPgn != ruta || !ListaLeida) AbrirListaPgn(ruta);
-    if (n >= static_cast<int32_t>(ListaPgn::Eventos.size())) {
+    const bool existe = Ficheros::Existe(ruta);
+    if (existe && (FicheroPgn != ruta || !ListaLeida)) AbrirListaPgn(ruta);
+    if (!existe || n >= static_cast<int32_t>(ListaPgn::Eventos.size())) {
         salida_ << "error no game " << n << '\n';
         return;
     }
