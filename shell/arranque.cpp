@@ -142,8 +142,7 @@ bool Main(const std::vector<std::string>& argumentos) {
     const bool maximizada = ventanas && *ventanas != 0;
     if (!maximizada) {
         auto leer = [](const char* clave) {
-            auto v = ANumero(LeerIni(FicheroOpciones, "Mdi", clave));
-            return v ? std::optional<int>(static_cast<int>(*v / kTwipsPorPixel)) : std::nullopt;
+            return Pixeles(LeerIni(FicheroOpciones, "Mdi", clave));
         };
         QSize s = mdi->size();
         if (auto v = leer("Width")) s.setWidth(*v);

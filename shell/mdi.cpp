@@ -81,14 +81,14 @@ void Mdi::changeEvent(QEvent* e) {
 }
 
 void Mdi::RestaurarMdi() {
-    auto leer = [](const char* clave) { return ANumero(LeerIni(FicheroOpciones, "Mdi", clave)); };
+    auto leer = [](const char* clave) { return Pixeles(LeerIni(FicheroOpciones, "Mdi", clave)); };
     QRect g = geometry();
-    if (auto v = leer("Width")) g.setWidth(static_cast<int>(*v / kTwipsPorPixel));
-    if (auto v = leer("Height")) g.setHeight(static_cast<int>(*v / kTwipsPorPixel));
+    if (auto v = leer("Width")) g.setWidth(*v);
+    if (auto v = leer("Height")) g.setHeight(*v);
     resize(g.size());
     QPoint p = pos();
-    if (auto v = leer("Left")) p.setX(static_cast<int>(*v / kTwipsPorPixel));
-    if (auto v = leer("Top")) p.setY(static_cast<int>(*v / kTwipsPorPixel));
+    if (auto v = leer("Left")) p.setX(*v);
+    if (auto v = leer("Top")) p.setY(*v);
     move(p);
 }
 

@@ -30,6 +30,7 @@
 #include "shell/ventanas.h"
 
 #include <QMdiSubWindow>
+#include <limits>
 
 namespace qa {
 
@@ -51,7 +52,10 @@ Tablero& T() {
 int TamanoOpciones() {
     Opciones* op = Forms().opciones;
     const double v = op ? Val(op->Tamano()) : 60;
-    return v < 1 ? 30 : static_cast<int>(v);
+    if (v < 1) return 30;
+    // A size no int holds is unreadable: the board keeps the one it has.
+    if (v > std::numeric_limits<int>::max()) return T().vista ? T().vista->Tamano() : 60;
+    return static_cast<int>(v);
 }
 
 // The three board options of the dialog, as its boxes stand.

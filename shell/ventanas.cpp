@@ -17,22 +17,20 @@ namespace qa {
 
 namespace {
 
-std::optional<int> Pixeles(const std::string& seccion, const std::string& clave) {
-    auto v = ANumero(LeerIni(FicheroOpciones, seccion, clave));
-    if (!v || std::abs(*v) > 1e8) return std::nullopt;
-    return static_cast<int>(std::lround(*v / kTwipsPorPixel));
+std::optional<int> PixelesDe(const std::string& seccion, const std::string& clave) {
+    return Pixeles(LeerIni(FicheroOpciones, seccion, clave));
 }
 
 void Situar(QWidget* w, const char* seccion, bool conTamano) {
     if (!w) return;
     QPoint p = w->pos();
-    if (auto v = Pixeles(seccion, "Top")) p.setY(*v);
-    if (auto v = Pixeles(seccion, "Left")) p.setX(*v);
+    if (auto v = PixelesDe(seccion, "Top")) p.setY(*v);
+    if (auto v = PixelesDe(seccion, "Left")) p.setX(*v);
     w->move(p);
     if (!conTamano) return;
     QSize s = w->size();
-    if (auto v = Pixeles(seccion, "Width")) s.setWidth(*v);
-    if (auto v = Pixeles(seccion, "Height")) s.setHeight(*v);
+    if (auto v = PixelesDe(seccion, "Width")) s.setWidth(*v);
+    if (auto v = PixelesDe(seccion, "Height")) s.setHeight(*v);
     w->resize(s);
 }
 
@@ -52,6 +50,12 @@ void Escribir(const char* seccion, const QWidget* w, bool conTamano) {
 }
 
 } // namespace
+
+std::optional<int> Pixeles(const std::string& twips) {
+    auto v = ANumero(twips);
+    if (!v || std::abs(*v) > 1e8) return std::nullopt;
+    return static_cast<int>(std::lround(*v / kTwipsPorPixel));
+}
 
 Lugar LugarDe(const QWidget* v) {
     return {v->y() * kTwipsPorPixel, v->x() * kTwipsPorPixel, v->width() * kTwipsPorPixel,

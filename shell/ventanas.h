@@ -2,6 +2,7 @@
 // Window places: every window keeps its place between runs, in twips as the settings hold them.
 #include "shell/configuracion.h"
 
+#include <optional>
 #include <string>
 
 class QWidget;
@@ -11,6 +12,10 @@ namespace qa {
 inline constexpr double kTwipsPorPixel = 15.0;
 
 Lugar LugarDe(const QWidget* ventana);
+
+// A place or size read from the settings as pixels: a number that does not make a window
+// coordinate is unreadable, and the window keeps what it had. Nothing else is clamped.
+std::optional<int> Pixeles(const std::string& twips);
 
 // Places all windows from the settings; nothing is clamped to the screen.
 void SituarVentanas();

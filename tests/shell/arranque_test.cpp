@@ -1,6 +1,7 @@
 // The whole program started offscreen in this process and closed again, with real files.
 #include "prueba_programa.h"
 
+#include "board/colores.h"
 #include "board/lista_jugadas.h"
 #include "core/game_state.h"
 #include "core/recorder.h"
@@ -11,6 +12,7 @@
 #include "shell/arranque.h"
 #include "shell/chat.h"
 #include "shell/enlaces.h"
+#include "shell/ficheros_programa.h"
 #include "shell/formularios.h"
 #include "shell/jugadas.h"
 #include "shell/mdi.h"
@@ -266,6 +268,32 @@ TEST(Programa, JunkSettingsAreRefusedAndTheProgramRuns) {
     EXPECT_TRUE(cajas.vistas.empty()); // junk Regit keys register nothing and ask nothing
     Forms().mdi->close();
     EXPECT_TRUE(FinPrograma());
+}
+
+TEST(Programa, NumbersNoWindowOrColourHoldsAreUnreadableOrClipped) {
+    Carpeta c;
+    Cajas cajas;
+    c.Ajustar("Mdi", "Windows", "0");
+    c.Ajustar("Mdi", "Top", "-99999999999");
+    c.Ajustar("Mdi", "Left", "150");
+    c.Ajustar("Mdi", "Width", "1e300");
+    c.Ajustar("Mdi", "Height", "9000");
+    c.Ajustar("Chat", "Top", "99999999999");
+    c.Ajustar("Configuracion", "Fondo", "1");
+    c.Ajustar("Configuracion", "Color", "2147483647:0:0");
+    c.Ajustar("Configuracion", "Tamaño", "1e300");
+    InstalarFicheros(); // the colours reach the forms through it
+    ASSERT_TRUE(Main({"quintarena"}));
+    Mdi* mdi = Forms().mdi;
+    EXPECT_EQ(mdi->x(), 10) << "a readable place is taken";
+    EXPECT_EQ(mdi->height(), 600);
+    EXPECT_GT(mdi->y(), -1000) << "the unreadable one keeps the window where it was";
+    EXPECT_GT(mdi->width(), 100);
+    // The clipped red inside the bevel, not a colour wrapped around.
+    EXPECT_EQ(ColorInterior(), QColor(255, 200, 200));
+    const int y = mdi->y();
+    mdi->close();
+    EXPECT_EQ(ANumero(LeerIni(c.Ruta("Default.ini"), "Mdi", "Top")), y * kTwipsPorPixel);
 }
 
 TEST(Programa, DamagedRankingStartsAgainAt1200) {
