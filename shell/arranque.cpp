@@ -25,8 +25,11 @@
 #include "shell/splash.h"
 #include "shell/ventanas.h"
 
-#include <QCoreApplication>
+#include <QApplication>
+#include <QDialog>
 #include <QMdiArea>
+#include <QThread>
+#include <QTimer>
 
 namespace qa {
 
@@ -45,6 +48,51 @@ std::int64_t g_frecuencia = 0;
 
 bool FinPrograma() {
     return Fin();
+}
+
+namespace {
+
+bool& Pedido() {
+    static bool pedido = false;
+    return pedido;
+}
+
+// While the start runs, Main itself closes once it has stopped.
+bool& EnArranque() {
+    static bool en = false;
+    return en;
+}
+
+// The close runs from the main event loop, never from inside a box's own loop: the handler that
+// opened the box finishes first.
+void CerrarCuandoSeguro() {
+    if (Fin() || EnArranque()) return;
+    if (QThread::currentThread()->loopLevel() > 1) {
+        QTimer::singleShot(50, QCoreApplication::instance(), &CerrarCuandoSeguro);
+        return;
+    }
+    if (Forms().mdi) Forms().mdi->Descargar();
+}
+
+} // namespace
+
+bool CierrePedido() {
+    return Pedido();
+}
+
+void PedirCierre() {
+    if (Fin()) return;
+    Pedido() = true;
+    // Nobody is there to answer: each box waiting goes, unanswered.
+    for (int i = 0; i < 16; ++i) {
+        QWidget* w = QApplication::activeModalWidget();
+        if (!w) break;
+        if (auto* d = qobject_cast<QDialog*>(w))
+            d->reject();
+        else
+            w->close();
+    }
+    CerrarCuandoSeguro();
 }
 
 namespace {
@@ -120,6 +168,8 @@ void CentrarEnMdi(QWidget* f) {
 
 bool Main(const std::vector<std::string>& argumentos) {
     Fin() = false;
+    Pedido() = false;
+    LugaresLeidos = false;
     g_frecuencia = FrecuenciaCronometro();
     g_a = "A";
     g_ap = "ap";
@@ -163,14 +213,18 @@ bool Main(const std::vector<std::string>& argumentos) {
     f.splash->raise();
     f.splash->repaint();
 
+    EnArranque() = true;
     f.quintarena->Cargar();
-    if (Fin()) return false;
-    f.quintarena->show();
-    DibujarEstado();
-
-    std::string linea;
-    for (std::size_t i = 1; i < argumentos.size(); ++i) linea += (i > 1 ? " " : "") + argumentos[i];
-    AbrirLineaDeOrdenes(NombreDeLineaDeOrdenes(linea));
+    if (!Fin() && !Pedido()) {
+        f.quintarena->show();
+        DibujarEstado();
+        std::string linea;
+        for (std::size_t i = 1; i < argumentos.size(); ++i)
+            linea += (i > 1 ? " " : "") + argumentos[i];
+        AbrirLineaDeOrdenes(NombreDeLineaDeOrdenes(linea));
+    }
+    EnArranque() = false;
+    if (!Fin() && Pedido()) mdi->Descargar();
     if (Fin()) return false;
     mdi->Area()->setActiveSubWindow(f.quintarena);
     f.quintarena->setFocus();

@@ -16,6 +16,13 @@ bool FinPrograma();
 // Ends the program at once, with nothing saved (a missing settings or language file).
 void TerminarPrograma();
 
+// SIGTERM or SIGINT: the main window is closed as by its close button, at the first point where
+// that is safe. A box or dialog that waits for an answer is put away unanswered, the start
+// stops where it stands, and the close saves only what had been read by then.
+void PedirCierre();
+// True once a close has been asked for from outside; the start and its questions stop.
+bool CierrePedido();
+
 // The name the command line hands on: the arguments as one text, "~" names in their long
 // form, a surrounding pair of quotes dropped, all in lower case.
 std::string NombreDeLineaDeOrdenes(const std::string& linea);

@@ -146,18 +146,20 @@ void GuardarOpciones() {
             Escribir("Mdi", "Height", TextoNumero(l.height));
         }
     }
-    EscribirLugares();
+    if (LugaresLeidos) EscribirLugares();
     auto& c = Controles();
-    EscribirLugarPendiente("Pgn", "TopInformacion", "LeftInformacion", c.ListaPgn);
-    EscribirLugarPendiente("Pgn", "TopJugadas", "LeftJugadas", c.PgnMovimientos);
+    if (LugaresLeidos) {
+        EscribirLugarPendiente("Pgn", "TopInformacion", "LeftInformacion", c.ListaPgn);
+        EscribirLugarPendiente("Pgn", "TopJugadas", "LeftJugadas", c.PgnMovimientos);
+    }
     Escribir("Configuracion", "Nick", c.Nick);
-    EscribirLugarPendiente("CPU", "Top", "Left", c.Cpu);
+    if (LugaresLeidos) EscribirLugarPendiente("CPU", "Top", "Left", c.Cpu);
     Escribir("CPU", "St", c.Level2Text1);
     Escribir("CPU", "Sd", c.Level2Text2);
     Escribir("CPU", "Tiempo", c.Level2Text3);
     Escribir("CPU", "Jugadas", c.Level2Combo1);
     Escribir("CPU", "Option", std::to_string(c.Level2Option));
-    EscribirLugarPendiente("EPD", "Top", "Left", c.Epd);
+    if (LugaresLeidos) EscribirLugarPendiente("EPD", "Top", "Left", c.Epd);
     if (Val(c.NuevoText1) < 1) c.NuevoText1 = Leer("Configuracion", "Tiempo");
     Escribir("Configuracion", "Tiempo", c.NuevoText1);
     Escribir("Configuracion", "Dir", c.Dir);

@@ -17,9 +17,7 @@ int main(int argc, char** argv) {
     app.setQuitOnLastWindowClosed(false);
     std::vector<std::string> argumentos;
     for (const QString& a : QCoreApplication::arguments()) argumentos.push_back(a.toStdString());
-    qa::AlTerminar([] {
-        if (qa::Forms().mdi) qa::Forms().mdi->Descargar();
-    });
+    qa::AlTerminar(qa::PedirCierre);
     qa::InstalarEntornoPrograma();
     qa::InstalarTablero();
     qa::InstalarFicheros();

@@ -87,6 +87,8 @@ void Quintarena::Cargar() {
         return;
     }
 
+    // A close asked for from outside while a box was up stops the start here.
+    if (CierrePedido()) return;
     op->CargarApariencia(LeerIni(FicheroOpciones, "Configuracion", "Apariencia"));
     LeerPuntuacion();
 
@@ -101,10 +103,13 @@ void Quintarena::Cargar() {
         f.mdi->Descargar();
         if (FinPrograma()) return;
     }
+    if (CierrePedido()) return;
     if (Controles().Nick.empty()) Ejecutar(Enlace().CambiarNick);
+    if (CierrePedido()) return;
 
     splash->Estado("Registrando extensión...");
     RegistrarFicheros();
+    if (CierrePedido()) return;
 
     splash->Estado("Cargando imágenes...");
     Ejecutar(Enlace().CargarImagenes);

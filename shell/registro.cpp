@@ -47,14 +47,20 @@ void RegistrarExtension(int tipo, const std::string& extension, const std::strin
 void RegistrarFicheros() {
     if (EsCero("RegitQtr"))
         RegistrarExtension(1, ".qtr", "qtrfile", "qtrfile", "Quintarena", "qtrfile");
+    // A question put away by a close from outside has no answer: the key stays, and it is asked
+    // again at the next start.
     if (EsCero("RegitPgn")) {
-        if (MostrarMensajeNumero(70, kIconoPregunta, kBotonesSiNo) == kRespuestaSi)
+        const int r = MostrarMensajeNumero(70, kIconoPregunta, kBotonesSiNo);
+        if (CierrePedido()) return;
+        if (r == kRespuestaSi)
             RegistrarExtension(2, ".pgn", "pgnfile", "pgnfile", "Quintarena", "pgnfile");
         else
             EscribirIni(FicheroOpciones, "Configuracion", "RegitPgn", "1");
     }
     if (EsCero("RegitEpd")) {
-        if (MostrarMensajeNumero(85, kIconoPregunta, kBotonesSiNo) == kRespuestaSi)
+        const int r = MostrarMensajeNumero(85, kIconoPregunta, kBotonesSiNo);
+        if (CierrePedido()) return;
+        if (r == kRespuestaSi)
             RegistrarExtension(3, ".epd", "epdfile", "epdfile", "Quintarena", "epdfile");
         else
             EscribirIni(FicheroOpciones, "Configuracion", "RegitEpd", "1");

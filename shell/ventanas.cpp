@@ -74,6 +74,7 @@ void SituarVentanas() {
     SituarPendiente(c.PgnMovimientos, "Pgn", "TopJugadas", "LeftJugadas");
     SituarPendiente(c.Cpu, "CPU", "Top", "Left");
     SituarPendiente(c.Epd, "EPD", "Top", "Left");
+    LugaresLeidos = true;
 }
 
 void EscribirLugares() {

@@ -19,6 +19,9 @@ std::optional<int> Pixeles(const std::string& twips);
 
 // Places all windows from the settings; nothing is clamped to the screen.
 void SituarVentanas();
+// Set once SituarVentanas has run: a close before that (a start cut short) writes no places of
+// windows that were never placed.
+inline bool LugaresLeidos = false;
 // Writes the places of the board form and the four panels, in the order of the settings table.
 void EscribirLugares();
 
