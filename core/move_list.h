@@ -2,6 +2,7 @@
 // The move texts and undo records of the Jugadas window. The history of the
 // game lives here and nowhere else: take-back reads it, the game file writes it.
 
+#include "core/lista_textos.h"
 #include "platform/texto.h"
 
 #include <string>
@@ -15,7 +16,7 @@ using qa::FinLinea;
 // [5] the user's letters. Each half-move is one line ended by CR LF.
 inline std::string List[6];
 // One undo record per half-move.
-inline std::vector<std::string> List1;
+inline ListaTextos List1;
 
 // Appends one half-move: White's after its number, Black's set off by blanks.
 void AnotarLista(const std::string& texto, int indice);

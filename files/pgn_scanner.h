@@ -9,6 +9,8 @@
 // out of step with the games when a tag is missing, tags of the first game
 // mixed with the second's when listing by another tag than Event).
 
+#include "core/lista_textos.h"
+
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -18,18 +20,18 @@
 // the windows show them.
 namespace ListaPgn {
 
-inline std::vector<std::string> Eventos;        // the list; an entry's ItemData is its index
-inline int32_t EventosIndice = -1;              // the selected entry
-inline std::string EventosTag;                  // the index last shown, as text
-inline int Buscar = 0;                          // which of the seven tags Eventos lists
-inline std::string Text1[6];                    // Event, Site, Date, Round, White, Black
-inline std::string Combo1;                      // Result
-inline std::string Label2 = "Partida:";         // position in the list
-inline std::string EtiquetaCuenta;              // the count of games, once per form
-inline std::string Titulo;                      // caption: "Titulo" key, " - ", file name
-inline std::vector<std::string> PgnMovimientos; // rows "12. e4" and 18 blanks + "e5"
+inline std::vector<std::string> Eventos; // the list; an entry's ItemData is its index
+inline int32_t EventosIndice = -1;       // the selected entry
+inline std::string EventosTag;           // the index last shown, as text
+inline int Buscar = 0;                   // which of the seven tags Eventos lists
+inline std::string Text1[6];             // Event, Site, Date, Round, White, Black
+inline std::string Combo1;               // Result
+inline std::string Label2 = "Partida:";  // position in the list
+inline std::string EtiquetaCuenta;       // the count of games, once per form
+inline std::string Titulo;               // caption: "Titulo" key, " - ", file name
+inline ListaTextos PgnMovimientos;       // rows "12. e4" and 18 blanks + "e5"
 inline int32_t PgnMovimientosIndice = -1;
-inline std::vector<std::string> PgnJugadas; // the game in replay form
+inline ListaTextos PgnJugadas; // the game in replay form
 
 // The line starts Buscar chooses from.
 inline constexpr const char* kEtiquetasBuscar[7] = {"[event ", "[site ",  "[date ",  "[round ",

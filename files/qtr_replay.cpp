@@ -97,8 +97,9 @@ void Rehusar() {
 } // namespace
 
 bool AbrirQtr(const std::string& ruta) {
-    std::vector<std::string> tokens;
-    if (!LeerTokens(ruta, tokens)) {
+    // Read straight into the replay's own layout (1-based), so a huge game is held once.
+    std::vector<std::string> lineas(1);
+    if (!LeerTokens(ruta, lineas)) {
         dialogos().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
         return false;
     }
@@ -114,9 +115,8 @@ bool AbrirQtr(const std::string& ruta) {
     if (Conectado) red().EnviarInicioPartida();
     dialogos().PonerTextoReloj(1, "");
     dialogos().PonerTextoReloj(2, "");
-    LineasPartida.assign(1, std::string());
-    for (auto& t : tokens) LineasPartida.push_back(std::move(t));
-    LineasPartida.emplace_back(); // the empty entry behind the last line
+    lineas.emplace_back(); // the empty entry behind the last line
+    LineasPartida.swap(lineas);
     dibujo().MarcadorVisible(false);
     LineaActual = 0;
     ColorInicio = 0;

@@ -1,0 +1,50 @@
+// The compact list of texts behind the undo records and the PGN browser's lists.
+#include "core/lista_textos.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(ListaTextos, ReadsLikeAVectorOfStringsThroughGrowthAndTakeBacks) {
+    ListaTextos l;
+    std::vector<std::string> v;
+    auto texto = [](size_t i) {
+        // Empty ones, ones with a NUL, and lengths that need two and three length bytes.
+        if (i % 7 == 0) return std::string();
+        if (i % 11 == 0) return std::string("a\0b", 3);
+        if (i % 13 == 0) return std::string(200 + i, 'x');
+        if (i == 90) return std::string(20000, 'y');
+        return std::to_string(i * 7919);
+    };
+    for (size_t i = 0; i < 150; ++i) {
+        l.push_back(texto(i));
+        v.push_back(texto(i));
+    }
+    // Taking back across the noted entries, then growing again.
+    for (int i = 0; i < 70; ++i) {
+        ASSERT_EQ(l.back(), v.back()) << i;
+        l.pop_back();
+        v.pop_back();
+    }
+    for (size_t i = 0; i < 40; ++i) {
+        l.push_back(texto(i + 1000));
+        v.push_back(texto(i + 1000));
+    }
+    ASSERT_EQ(l.size(), v.size());
+    for (size_t i = 0; i < v.size(); ++i) EXPECT_EQ(l[i], v[i]) << i;
+    EXPECT_EQ(l, v);
+    EXPECT_EQ(l.back(), v.back());
+    ListaTextos copia = l;
+    EXPECT_EQ(copia, l);
+    copia.pop_back();
+    EXPECT_FALSE(copia == l);
+    while (!l.empty()) l.pop_back();
+    EXPECT_EQ(l.begin(), l.end());
+    EXPECT_EQ(l.back(), "");
+    l.push_back("5254");
+    EXPECT_EQ(l, (std::vector<std::string>{"5254"}));
+    l.clear();
+    EXPECT_TRUE(l.empty());
+}
+
+} // namespace
