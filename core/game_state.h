@@ -3,6 +3,8 @@
 // variables; callers hand a move over through Origen/Destino and read the
 // verdict back from MovimientoValido and the flags.
 
+#include "core/lista_textos.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -78,7 +80,7 @@ inline int32_t PiezaCoronacion, FichaComidaCoronacion;
 
 // Notation and replay.
 inline std::string Notacion, NotacionTraducida;
-inline std::vector<std::string> LineasPartida; // 1-based: element 0 unused
+inline ListaTextos LineasPartida; // 1-based: element 0 unused
 inline int32_t LineaActual;
 inline int32_t ColorInicio;
 inline bool Cargando, Retrocediendo, DesdePosicion, EditandoTablero;

@@ -25,6 +25,15 @@ void ListaTextos::clear() {
     ultima_ = 0;
 }
 
+void ListaTextos::swap(ListaTextos& o) noexcept {
+    std::swap(datos_, o.datos_);
+    std::swap(marcas_, o.marcas_);
+    std::swap(n_, o.n_);
+    std::swap(ultima_, o.ultima_);
+    std::swap(cursorI_, o.cursorI_);
+    std::swap(cursorPos_, o.cursorPos_);
+}
+
 void ListaTextos::push_back(std::string_view texto) {
     if (n_ % kPaso == 0) marcas_.push_back(datos_.size());
     ultima_ = datos_.size();

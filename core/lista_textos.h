@@ -52,7 +52,12 @@ public:
     bool empty() const { return n_ == 0; }
     void clear();
     void push_back(std::string_view texto);
-    void emplace_back(std::string_view texto) { push_back(texto); }
+    void emplace_back(std::string_view texto = {}) { push_back(texto); }
+    void assign(size_t n, std::string_view texto) {
+        clear();
+        for (size_t i = 0; i < n; ++i) push_back(texto);
+    }
+    void swap(ListaTextos& o) noexcept;
     void pop_back();
     std::string operator[](size_t i) const;
     std::string front() const { return (*this)[0]; }

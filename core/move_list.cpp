@@ -3,11 +3,107 @@
 #include "core/environment.h"
 #include "core/game_state.h"
 
+#include <ostream>
+
 namespace Jugadas {
+
+namespace {
+
+// A byte that the text itself may hold where a code would stand goes behind kLiteral.
+constexpr char kFinLinea = '\n';
+constexpr char kBlancos = '\x01';
+constexpr char kLiteral = '\x02';
+constexpr size_t kRacha = 18;
+
+} // namespace
+
+TextoJugadas& TextoJugadas::operator+=(std::string_view texto) {
+    for (const char c : texto) {
+        ++largo_;
+        if (c == '\n' && !codigo_.empty() && codigo_.back() == '\r') {
+            // Only the line end's CR is ever kept alone, as a literal.
+            codigo_.resize(codigo_.size() - 2);
+            codigo_ += kFinLinea;
+        } else if (c == '\r' || c == '\n' || c == kBlancos || c == kLiteral) {
+            codigo_ += kLiteral;
+            codigo_ += c;
+        } else {
+            codigo_ += c;
+            if (c != ' ' || codigo_.size() < kRacha) continue;
+            if (codigo_.find_last_not_of(' ') + 1 + kRacha == codigo_.size()) {
+                codigo_.resize(codigo_.size() - kRacha);
+                codigo_ += kBlancos;
+            }
+        }
+    }
+    return *this;
+}
+
+namespace {
+
+// Whether the last byte is the second of a literal pair: the kLiteral bytes in front of it
+// pair up from the left, and an odd one out is its prefix.
+bool UltimoLiteral(const std::string& c) {
+    size_t k = 0;
+    while (k + 1 < c.size() && c[c.size() - 2 - k] == kLiteral) ++k;
+    return k % 2 == 1;
+}
+
+} // namespace
+
+char TextoJugadas::back() const {
+    if (codigo_.empty()) return '\0';
+    const char b = codigo_.back();
+    if (UltimoLiteral(codigo_)) return b;
+    return b == kFinLinea ? '\n' : b == kBlancos ? ' ' : b;
+}
+
+void TextoJugadas::pop_back() {
+    if (codigo_.empty()) return;
+    --largo_;
+    const char b = codigo_.back();
+    if (UltimoLiteral(codigo_)) {
+        codigo_.resize(codigo_.size() - 2);
+    } else if (b == kFinLinea) {
+        codigo_.back() = kLiteral;
+        codigo_ += '\r';
+    } else if (b == kBlancos) {
+        codigo_.pop_back();
+        codigo_.append(kRacha - 1, ' ');
+    } else {
+        codigo_.pop_back();
+    }
+}
+
+void TextoJugadas::clear() {
+    std::string().swap(codigo_);
+    largo_ = 0;
+}
+
+std::string TextoJugadas::str() const {
+    std::string t;
+    t.reserve(largo_);
+    for (size_t i = 0; i < codigo_.size(); ++i) {
+        const char b = codigo_[i];
+        if (b == kLiteral && i + 1 < codigo_.size())
+            t += codigo_[++i];
+        else if (b == kFinLinea)
+            t += FinLinea;
+        else if (b == kBlancos)
+            t.append(kRacha, ' ');
+        else
+            t += b;
+    }
+    return t;
+}
+
+std::ostream& operator<<(std::ostream& o, const TextoJugadas& t) {
+    return o << t.str();
+}
 
 void AnotarLista(const std::string& texto, int indice) {
     if (indice < 1 || indice > 5) return;
-    std::string& t = List[indice];
+    TextoJugadas& t = List[indice];
     if (!Variables::MedioTurno)
         t += std::to_string(Variables::NumeroJugada) + ". ";
     else
@@ -26,7 +122,7 @@ void Vaciar() {
 std::vector<std::string> Lineas(int indice) {
     std::vector<std::string> out;
     if (indice < 1 || indice > 5) return out;
-    const std::string& t = List[indice];
+    const std::string t = List[indice].str();
     size_t inicio = 0;
     while (inicio < t.size()) {
         size_t fin = t.find('\n', inicio);

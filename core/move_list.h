@@ -5,16 +5,41 @@
 #include "core/lista_textos.h"
 #include "platform/texto.h"
 
+#include <iosfwd>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Jugadas {
 
 using qa::FinLinea;
 
+// The text of one move list. It reads like a string; inside, the two runs
+// every half-move has are one byte each: the line end (CR LF) and the 18
+// blanks that set off Black's moves. A huge game costs little per move.
+class TextoJugadas {
+public:
+    TextoJugadas& operator+=(std::string_view texto);
+    bool empty() const { return largo_ == 0; }
+    size_t size() const { return largo_; }
+    char back() const;
+    void pop_back();
+    void clear();
+    std::string str() const;
+    operator std::string() const { return str(); }
+
+    friend bool operator==(const TextoJugadas& a, std::string_view b) { return a.str() == b; }
+    friend std::string operator+(std::string a, const TextoJugadas& b) { return a += b.str(); }
+    friend std::ostream& operator<<(std::ostream& o, const TextoJugadas& t);
+
+private:
+    std::string codigo_;
+    size_t largo_ = 0;
+};
+
 // List[1] coordinates, [2] Spanish, [3] English, [4] the game as squares,
 // [5] the user's letters. Each half-move is one line ended by CR LF.
-inline std::string List[6];
+inline TextoJugadas List[6];
 // One undo record per half-move.
 inline ListaTextos List1;
 

@@ -108,7 +108,7 @@ void RetrocesoFuncion() {
 
 void BorrarUltimaJugada() {
     for (int k = 1; k <= 5; ++k) {
-        std::string& t = Jugadas::List[k];
+        Jugadas::TextoJugadas& t = Jugadas::List[k];
         // At most 30 characters, back to the line feed that ends the line before.
         for (int quitados = 0; quitados < 30 && !t.empty(); ++quitados) {
             if (quitados > 0 && t.back() == '\n') break;

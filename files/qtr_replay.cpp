@@ -4,6 +4,7 @@
 #include "core/environment.h"
 #include "core/game_end.h"
 #include "core/game_state.h"
+#include "core/lista_textos.h"
 #include "core/move_filter.h"
 #include "core/move_list.h"
 #include "core/move_sequence.h"
@@ -24,7 +25,7 @@ using qa::kIconoInformacion;
 
 // The lines of the file read as tokens ended by a comma or a line end; a
 // token in double quotes keeps its commas.
-bool LeerTokens(const std::string& ruta, std::vector<std::string>& tokens) {
+bool LeerTokens(const std::string& ruta, ListaTextos& tokens) {
     LectorLineas lector(ruta);
     if (!lector.Abierto()) return false;
     std::string_view linea;
@@ -48,7 +49,7 @@ bool LeerTokens(const std::string& ruta, std::vector<std::string>& tokens) {
                 const size_t b = t.find_last_not_of(" \t");
                 token.assign(b == std::string_view::npos ? std::string_view{} : t.substr(0, b + 1));
             }
-            tokens.push_back(std::move(token));
+            tokens.push_back(token);
             if (fin == std::string_view::npos) break;
             i = fin + 1;
         } while (i <= linea.size());
@@ -97,8 +98,8 @@ void Rehusar() {
 } // namespace
 
 bool AbrirQtr(const std::string& ruta) {
-    // Read straight into the replay's own layout (1-based), so a huge game is held once.
-    std::vector<std::string> lineas(1);
+    ListaTextos lineas;
+    lineas.emplace_back();
     if (!LeerTokens(ruta, lineas)) {
         dialogos().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
         return false;

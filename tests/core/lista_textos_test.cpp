@@ -1,5 +1,6 @@
 // The compact list of texts behind the undo records and the PGN browser's lists.
 #include "core/lista_textos.h"
+#include "core/move_list.h"
 
 #include <gtest/gtest.h>
 
@@ -45,6 +46,46 @@ TEST(ListaTextos, ReadsLikeAVectorOfStringsThroughGrowthAndTakeBacks) {
     EXPECT_EQ(l, (std::vector<std::string>{"5254"}));
     l.clear();
     EXPECT_TRUE(l.empty());
+}
+
+TEST(TextoJugadas, ReadsLikeTheStringItStandsFor) {
+    Jugadas::TextoJugadas t;
+    std::string s;
+    // Pieces as the lists get them, and bytes the short codes themselves use.
+    const std::string piezas[] = {"12. ",       std::string(18, ' '),
+                                  "e4",         "\r\n",
+                                  "\r",         "\n",
+                                  "\x01",       "\x02",
+                                  " ",          "a\r",
+                                  "\nb",        std::string(40, ' '),
+                                  "\x02\x02\n", "Kd7+",
+                                  "\x02\r"};
+    unsigned azar = 7;
+    for (int i = 0; i < 3000; ++i) {
+        azar = azar * 1103515245u + 12345u;
+        const std::string& p = piezas[(azar >> 16) % std::size(piezas)];
+        t += p;
+        s += p;
+        if ((azar >> 8) % 5 == 0) {
+            // A take-back: characters off the end one at a time.
+            for (int k = 0; k < static_cast<int>((azar >> 4) % 31) && !s.empty(); ++k) {
+                ASSERT_EQ(t.back(), s.back()) << i;
+                t.pop_back();
+                s.pop_back();
+            }
+        }
+        ASSERT_EQ(t.size(), s.size()) << i;
+    }
+    EXPECT_EQ(t.str(), s);
+    EXPECT_EQ(t, s);
+    EXPECT_EQ(std::string("x") + t, "x" + s);
+    while (!s.empty()) {
+        ASSERT_EQ(t.back(), s.back());
+        t.pop_back();
+        s.pop_back();
+    }
+    EXPECT_TRUE(t.empty());
+    EXPECT_EQ(t.str(), "");
 }
 
 } // namespace
