@@ -2,6 +2,10 @@
 
 #include "core/game_state.h"
 
+#ifdef __SSE2__
+#include <emmintrin.h>
+#endif
+
 namespace Variables {
 
 namespace {
@@ -16,7 +20,7 @@ constexpr Paso kCaballo[8] = {{1, 2}, {-1, 2}, {1, -2}, {-1, -2},
                               {2, 1}, {2, -1}, {-2, 1}, {-2, -1}};
 constexpr Paso kRey[8] = {{0, -1}, {0, 1}, {1, 0}, {-1, 0}, {-1, -1}, {1, -1}, {-1, 1}, {1, 1}};
 
-inline bool Dentro(int c, int f) {
+constexpr bool Dentro(int c, int f) {
     return c >= 1 && c <= 8 && f >= 1 && f <= 8;
 }
 inline bool EsPieza(int32_t v) {
@@ -26,18 +30,36 @@ inline int32_t& Copia(int c, int f) {
     return TableroCopia[c][f];
 }
 
+// Squares a ray takes from (c, f) before it leaves the board.
+inline int PasosHastaBorde(int c, int f, const Paso& p) {
+    if (!Dentro(c, f)) {
+        int n = 0;
+        while (Dentro(c + (n + 1) * p.dc, f + (n + 1) * p.df)) ++n;
+        return n;
+    }
+    int n = p.dc > 0 ? 8 - c : p.dc < 0 ? c - 1 : 8;
+    int m = p.df > 0 ? 8 - f : p.df < 0 ? f - 1 : 8;
+    return n < m ? n : m;
+}
+// TableroCopia as one row of cells: (c, f) is cell c * 9 + f.
+inline int32_t* const kCeldas = &TableroCopia[0][0];
+inline int Salto(const Paso& p) {
+    return p.dc * 9 + p.df;
+}
+
 // Walks rays from a piece, marking touched empty squares, until the king sought or a piece.
 void AtaqueRayos(int col, int fila, int32_t rey, const Paso* pasos, int n) {
     for (int i = 0; i < n; ++i) {
-        for (int c = col + pasos[i].dc, f = fila + pasos[i].df; Dentro(c, f);
-             c += pasos[i].dc, f += pasos[i].df) {
-            int32_t v = Copia(c, f);
+        const int salto = Salto(pasos[i]);
+        for (int k = PasosHastaBorde(col, fila, pasos[i]), q = col * 9 + fila; k > 0; --k) {
+            q += salto;
+            const int32_t v = kCeldas[q];
             if (v == rey) {
                 Ataque = true;
                 break;
             }
             if (EsPieza(v)) break;
-            Copia(c, f) = -1;
+            kCeldas[q] = -1;
         }
     }
 }
@@ -46,11 +68,11 @@ void AtaqueSaltos(int col, int fila, int32_t rey, const Paso* pasos) {
     for (int i = 0; i < 8; ++i) {
         int c = col + pasos[i].dc, f = fila + pasos[i].df;
         if (!Dentro(c, f)) continue;
-        int32_t v = Copia(c, f);
+        int32_t& v = Copia(c, f);
         if (v == rey)
             Ataque = true;
         else if (v == 0 || v == -1)
-            Copia(c, f) = -1;
+            v = -1;
     }
 }
 
@@ -118,6 +140,102 @@ void EscanearAtaque(bool blancas) {
         }
 }
 
+// The squares of TableroCopia that hold `codigo`, bit (column - 1) * 8 + (row - 1).
+uint64_t CasillasCon(int32_t codigo) {
+    uint64_t m = 0;
+#ifdef __SSE2__
+    const __m128i buscado = _mm_set1_epi32(codigo);
+    for (int c = 1; c <= 8; ++c) {
+        const int32_t* p = &TableroCopia[c][1];
+        const __m128i a =
+            _mm_cmpeq_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p)), buscado);
+        const __m128i b =
+            _mm_cmpeq_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p + 4)), buscado);
+        const __m128i x = _mm_packs_epi16(_mm_packs_epi32(a, b), _mm_setzero_si128());
+        m |= uint64_t(unsigned(_mm_movemask_epi8(x)) & 0xFFu) << ((c - 1) * 8);
+    }
+#else
+    for (int c = 1; c <= 8; ++c)
+        for (int f = 1; f <= 8; ++f)
+            if (TableroCopia[c][f] == codigo) m |= uint64_t{1} << ((c - 1) * 8 + (f - 1));
+#endif
+    return m;
+}
+
+// Per square (bit (column - 1) * 8 + (row - 1)): the knight's and king's
+// squares on the board as offsets into TableroCopia, and each ray's length.
+struct Alrededor {
+    int8_t caballos, reyes;
+    int16_t caballo[8], rey[8];
+    int8_t rayo[8]; // north, south, west, east, then the diagonals in walker order
+};
+constexpr auto kAlrededor = [] {
+    struct Tabla {
+        Alrededor a[64];
+    } t{};
+    for (int c = 1; c <= 8; ++c)
+        for (int f = 1; f <= 8; ++f) {
+            Alrededor& a = t.a[(c - 1) * 8 + (f - 1)];
+            for (int i = 0; i < 8; ++i) {
+                int cc = c + kCaballo[i].dc, ff = f + kCaballo[i].df;
+                if (Dentro(cc, ff)) a.caballo[a.caballos++] = int16_t(cc * 9 + ff);
+                cc = c + kRey[i].dc, ff = f + kRey[i].df;
+                if (Dentro(cc, ff)) a.rey[a.reyes++] = int16_t(cc * 9 + ff);
+                const Paso& p = i < 4 ? kRectas[i] : kDiagonales[i - 4];
+                int n = 0;
+                while (Dentro(c + (n + 1) * p.dc, f + (n + 1) * p.df)) ++n;
+                a.rayo[i] = int8_t(n);
+            }
+        }
+    return t;
+}();
+
+// The pieces of one colour whose walkers reach the square (column, row), as
+// bits in scan order (row outer, column inner): those that would hit a king
+// there, or mark it if it is empty. Looking out from the square finds the
+// same pieces as walking out from every piece: a ray ends at the first
+// square that holds anything but 0 or -1 from either side.
+uint64_t PiezasQueAlcanzan(int col, int fila, bool blancas) {
+    const int32_t base = blancas ? 0 : 6;
+    const int32_t torre = base + TorreB, alfil = base + AlfilB, dama = base + DamaB;
+    const int32_t caballo = base + CaballoB, rey = base + ReyB, peon = base + PeonB;
+    const int32_t* tablero = kCeldas;
+    auto bit = [](int idx) { return uint64_t{1} << ((idx % 9 - 1) * 8 + (idx / 9 - 1)); };
+    const Alrededor& a = kAlrededor.a[(col - 1) * 8 + (fila - 1)];
+    const int k = col * 9 + fila;
+    uint64_t piezas = 0;
+    for (int d = 0; d < 8; ++d) {
+        const int32_t propia = d < 4 ? torre : alfil;
+        const int salto = Salto(d < 4 ? kRectas[d] : kDiagonales[d - 4]);
+        int q = k;
+        for (int n = a.rayo[d]; n > 0; --n) {
+            q += salto;
+            const int32_t v = tablero[q];
+            if (!EsPieza(v)) continue;
+            if (v == propia || v == dama) piezas |= bit(q);
+            break;
+        }
+    }
+    for (int j = 0; j < a.caballos; ++j)
+        if (tablero[a.caballo[j]] == caballo) piezas |= bit(a.caballo[j]);
+    for (int j = 0; j < a.reyes; ++j)
+        if (tablero[a.rey[j]] == rey) piezas |= bit(a.rey[j]);
+    const int f = fila + (blancas ? -1 : 1); // where a pawn stands that reaches the square
+    for (int c : {col - 1, col + 1})
+        if (Dentro(c, f) && tablero[c * 9 + f] == peon) piezas |= bit(c * 9 + f);
+    return piezas;
+}
+
+// The pieces of one colour that would hit any square holding `rey`.
+uint64_t PiezasQueAtacan(bool blancas, int32_t rey) {
+    uint64_t piezas = 0;
+    for (uint64_t reyes = CasillasCon(rey); reyes; reyes &= reyes - 1) {
+        const int i = __builtin_ctzll(reyes);
+        piezas |= PiezasQueAlcanzan(i / 8 + 1, i % 8 + 1, blancas);
+    }
+    return piezas;
+}
+
 enum class Tras { Sigue, FinRayo, Sale };
 enum class Clase { Recta, Diagonal, Salto };
 
@@ -149,7 +267,8 @@ int32_t PiezaDefensora(Clase clase) {
 // What a reach walker from (pc, pf) does on a square (c, f) that holds its target.
 Tras Alcanzado(int pc, int pf, int c, int f, int32_t objetivo, Clase clase, bool oeste) {
     if (BuscandoCaptura) {
-        if (TextoCasilla(c, f) == Atacantes) {
+        if (Atacantes.size() == 2 && Atacantes[0] == char('0' + c) &&
+            Atacantes[1] == char('0' + f)) {
             Capturadores += TextoCasilla(pc, pf);
             Mate = false;
         }
@@ -188,10 +307,14 @@ Tras Alcanzado(int pc, int pf, int c, int f, int32_t objetivo, Clase clase, bool
 
 void AlcanceRayos(int col, int fila, int32_t objetivo, const Paso* pasos, int n, Clase clase) {
     for (int i = 0; i < n; ++i) {
-        bool oeste = clase == Clase::Recta && i == 2;
-        for (int c = col + pasos[i].dc, f = fila + pasos[i].df; Dentro(c, f);
-             c += pasos[i].dc, f += pasos[i].df) {
-            int32_t v = Copia(c, f);
+        const bool oeste = clase == Clase::Recta && i == 2;
+        const int salto = Salto(pasos[i]);
+        int c = col, f = fila;
+        for (int k = PasosHastaBorde(col, fila, pasos[i]), q = col * 9 + fila; k > 0; --k) {
+            q += salto;
+            c += pasos[i].dc;
+            f += pasos[i].df;
+            const int32_t v = kCeldas[q];
             if (v == objetivo) {
                 Tras t = Alcanzado(col, fila, c, f, objetivo, clase, oeste);
                 if (t == Tras::Sale) return;
@@ -413,6 +536,10 @@ void ProbarReyPropio() {
         if (Dentro(ColOrigen, FilaOrigen)) TableroCopia[ColOrigen][FilaOrigen] = 0;
         if (Dentro(ColDestino, FilaDestino)) TableroCopia[ColDestino][FilaDestino] = FichaMovida;
     }
+    // Every caller copies the board again before it reads marks, so the map
+    // is drawn only for a king that is attacked.
+    if (EsBlanca(FichaMovida) && PiezasQueAtacan(false, ReyB) == 0) return;
+    if (EsNegra(FichaMovida) && PiezasQueAtacan(true, ReyN) == 0) return;
     ProbarAtaque();
 }
 
@@ -436,7 +563,18 @@ void BuscarAtacantes() {
 void ProbarJaque() {
     CopiarYJugar();
     Atacantes.clear();
-    BuscarAtacantes();
+    // What BuscarAtacantes would collect, without its marks: mate and
+    // stalemate tests copy the board afresh.
+    if (EsBlanca(FichaMovida) || EsNegra(FichaMovida)) {
+        const bool blancas = EsBlanca(FichaMovida);
+        for (uint64_t piezas = PiezasQueAtacan(blancas, blancas ? ReyN : ReyB); piezas;
+             piezas &= piezas - 1) {
+            const int i = __builtin_ctzll(piezas);
+            Atacantes += char('1' + i % 8);
+            Atacantes += char('1' + i / 8);
+        }
+    }
+    Ataque = !Atacantes.empty();
     if (!Atacantes.empty()) Jaque = true;
 }
 
@@ -445,25 +583,38 @@ void ProbarHuidaRey() {
     if (!moverBlanco && !EsNegra(FichaMovida)) return;
     int32_t rey = moverBlanco ? ReyN : ReyB;
     int32_t primero = moverBlanco ? 1 : 7; // the mover's codes, which the king may take
-    for (int f = 1; f <= 8; ++f)
-        for (int c = 1; c <= 8; ++c)
-            if (Copia(c, f) == rey) {
-                ReyCol = c;
-                ReyFila = f;
-            }
+    const uint64_t reyes = CasillasCon(rey);
+    if (reyes && (reyes & (reyes - 1)) == 0) {
+        const int i = __builtin_ctzll(reyes);
+        ReyCol = i / 8 + 1;
+        ReyFila = i % 8 + 1;
+    } else if (reyes) {
+        // Several kings: the last one in scan order is the one tried.
+        for (int f = 1; f <= 8; ++f)
+            for (int c = 1; c <= 8; ++c)
+                if (Copia(c, f) == rey) {
+                    ReyCol = c;
+                    ReyFila = f;
+                }
+    }
     if (ReyCol < 0 || ReyCol > 8 || ReyFila < 0 || ReyFila > 8) return;
     constexpr Paso vecinos[8] = {{0, -1}, {-1, -1}, {-1, 0}, {-1, 1},
                                  {0, 1},  {1, 1},   {1, 0},  {1, -1}};
     for (const Paso& p : vecinos) {
         int c = ReyCol + p.dc, f = ReyFila + p.df;
         if (!Dentro(c, f)) continue;
-        for (int32_t k = primero; k < primero + 6; ++k) {
-            if (!(Copia(c, f) == 0 || Copia(c, f) == k)) continue;
+        // An empty square passes the test for each of the six codes, but a
+        // failed trial leaves the board as it found it apart from marks, which
+        // read as empty: the repeats would find the same, so it is tried once.
+        const int32_t v = Copia(c, f);
+        if (v == 0 || (v >= primero && v < primero + 6)) {
             Copia(ReyCol, ReyFila) = 0;
             FichaGuardada = Copia(c, f);
             Copia(c, f) = rey;
             Ataque = false;
-            EscanearAtaque(moverBlanco);
+            // A square the king keeps ends the test, and the tests after it
+            // copy the board again: the map is drawn only for an attacked square.
+            if (PiezasQueAtacan(moverBlanco, rey) != 0) EscanearAtaque(moverBlanco);
             if (!Ataque) {
                 Jaque = true;
                 Mate = false;

@@ -111,23 +111,54 @@ bool Buscar(Walker walker, int col, int fila, int32_t codigo, bool bandera) {
 
 } // namespace
 
+namespace {
+// Appends a number as std::to_string writes it; one digit without a temporary.
+void Anadir(std::string& s, int32_t n) {
+    if (n >= 0 && n <= 9)
+        s += char('0' + n);
+    else
+        s += std::to_string(n);
+}
+} // namespace
+
 std::string RegistroDeshacer() {
-    std::string c = std::to_string(ColOrigen) + std::to_string(FilaOrigen) +
-                    std::to_string(ColDestino) + std::to_string(FilaDestino);
+    std::string c;
+    c.reserve(15);
+    Anadir(c, ColOrigen);
+    Anadir(c, FilaOrigen);
+    Anadir(c, ColDestino);
+    Anadir(c, FilaDestino);
     const int32_t destino = Tablero[ColDestino][FilaDestino];
     // The first case that fits, top down: odd moves (a castling king landing
     // on a piece, en passant onto a piece) take the capture form.
-    if (destino == 0 && TipoEnroque == 0 && AlPasoTexto.empty() && PiezaCoronacion == 0)
-        return EsRey(FichaMovida) ? c + "t" + DigitoDerechos() : c;
-    if (destino != 0 && PiezaCoronacion == 0) {
-        c += "x" + std::to_string(destino);
-        if (EsRey(FichaMovida)) c += std::string("t") + DigitoDerechos();
+    if (destino == 0 && TipoEnroque == 0 && AlPasoTexto.empty() && PiezaCoronacion == 0) {
+        if (EsRey(FichaMovida)) {
+            c += 't';
+            c += DigitoDerechos();
+        }
         return c;
     }
-    if (TipoEnroque != 0) return c + "e" + DigitoDerechos();
+    if (destino != 0 && PiezaCoronacion == 0) {
+        c += 'x';
+        Anadir(c, destino);
+        if (EsRey(FichaMovida)) {
+            c += 't';
+            c += DigitoDerechos();
+        }
+        return c;
+    }
+    if (TipoEnroque != 0) {
+        c += 'e';
+        c += DigitoDerechos();
+        return c;
+    }
     if (!AlPasoTexto.empty()) return c + "p" + AlPasoTexto;
-    c += "c" + std::to_string(FichaMovida);
-    if (FichaComidaCoronacion != 0) c += "x" + std::to_string(FichaComidaCoronacion);
+    c += 'c';
+    Anadir(c, FichaMovida);
+    if (FichaComidaCoronacion != 0) {
+        c += 'x';
+        Anadir(c, FichaComidaCoronacion);
+    }
     return c;
 }
 
@@ -135,9 +166,12 @@ void EscribirJugada() {
     const bool mostrar = !listas().ListaPgnVisible();
     if (!MedioTurno) ++NumeroJugada;
     if (mostrar) {
-        Jugadas::List[4] += std::to_string(ColOrigen) + std::to_string(FilaOrigen) +
-                            std::to_string(ColDestino) + std::to_string(FilaDestino);
-        if (PiezaCoronacion != 0) Jugadas::List[4] += std::to_string(PiezaCoronacion);
+        std::string& cuatro = Jugadas::List[4];
+        Anadir(cuatro, ColOrigen);
+        Anadir(cuatro, FilaOrigen);
+        Anadir(cuatro, ColDestino);
+        Anadir(cuatro, FilaDestino);
+        if (PiezaCoronacion != 0) Anadir(cuatro, PiezaCoronacion);
         Jugadas::List[4] += Jugadas::FinLinea;
     }
     if (ColOrigen != 0 && FilaOrigen != 0 && ColDestino != 0 && FilaDestino != 0)
