@@ -166,13 +166,14 @@ void EscribirJugada() {
     const bool mostrar = !listas().ListaPgnVisible();
     if (!MedioTurno) ++NumeroJugada;
     if (mostrar) {
-        std::string& cuatro = Jugadas::List[4];
+        std::string cuatro;
         Anadir(cuatro, ColOrigen);
         Anadir(cuatro, FilaOrigen);
         Anadir(cuatro, ColDestino);
         Anadir(cuatro, FilaDestino);
         if (PiezaCoronacion != 0) Anadir(cuatro, PiezaCoronacion);
-        Jugadas::List[4] += Jugadas::FinLinea;
+        cuatro += Jugadas::FinLinea;
+        Jugadas::List[4] += cuatro;
     }
     if (ColOrigen != 0 && FilaOrigen != 0 && ColDestino != 0 && FilaDestino != 0)
         Jugadas::List1.push_back(RegistroDeshacer());
