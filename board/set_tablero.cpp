@@ -5,6 +5,7 @@
 #include "board/pic_buffer.h"
 #include "board/textos.h"
 
+#include "core/clocks.h"
 #include "core/environment.h"
 #include "core/game_state.h"
 #include "core/move_list.h"
@@ -166,7 +167,7 @@ void SetTableroF::AlPaso() {
 void SetTableroF::Aceptar() {
     if (Text1->text().isEmpty()) Check[5]->setChecked(false);
     TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = false;
-    dialogos().ReiniciarRelojes();
+    RelojesCero();
     Jugadas::Vaciar();
     VariablesCero();
     MovimientoAnulado();

@@ -39,7 +39,6 @@ public:
     // tells its clock lines by whether they are empty.
     virtual std::string TextoReloj(int lado) = 0;
     virtual void PonerTextoReloj(int lado, const std::string& texto) = 0;
-    virtual void ReiniciarRelojes() = 0;
 };
 
 // The engine form. Its calls are reached only while an engine plays or the form is up.

@@ -76,43 +76,19 @@ bool ReproduciendoPartida() {
 }
 
 void RestablecerTodo() {
-    std::memset(Tablero, 0, sizeof Tablero);
-    std::memset(TableroCopia, 0, sizeof TableroCopia);
-    Origen.clear();
-    Destino.clear();
-    ColOrigen = FilaOrigen = ColDestino = FilaDestino = FichaMovida = FichaDestino = 0;
-    MovimientoValido = SoloProbar = false;
-    FilaRaton = ColRaton = 0;
-    AlPasoPosible = false;
-    AlPasoCasilla = 0;
-    AlPasoTexto.clear();
-    AlPasoCaduca = false;
-    TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = false;
-    for (int i = 0; i < 3; ++i) DerechosBlancas[i] = DerechosNegras[i] = false;
-    TipoEnroque = 0;
-    EnroqueIntento = false;
-    Turno = 0;
-    Conectado = MedioTurno = false;
-    NumeroJugada = 0;
-    Ataque = Jaque = Mate = Ahogado = false;
-    ReyCol = ReyFila = FichaGuardada = 0;
-    Atacantes.clear();
-    CasillaJaque.clear();
-    JaqueDescubierto.clear();
-    Capturadores.clear();
-    BuscandoCaptura = CasillaCoincide = OtraPieza = false;
-    OtraCol.clear();
-    OtraFila.clear();
-    PiezaCoronacion = FichaComidaCoronacion = 0;
-    Notacion.clear();
-    NotacionTraducida.clear();
-    LineasPartida.assign(1, std::string());
-    LineaActual = ColorInicio = 0;
-    Cargando = Retrocediendo = DesdePosicion = EditandoTablero = false;
-    TipoPartida.clear();
-    ColorJugador.clear();
-    AlPasoFen.clear();
-    MotorBlancas = MotorNegras = ArrastreCancelado = false;
+#define CASILLAS(n) std::memset(n, 0, sizeof n);
+#define TEXTO(n) n.clear();
+#define ENTERO(tipo, n) n = 0;
+#define BANDERA(n) n = false;
+#define PAR(n) n[0] = n[1] = n[2] = false;
+#define LINEAS(n) n.assign(1, std::string());
+#include "core/game_state_list.h"
+#undef CASILLAS
+#undef TEXTO
+#undef ENTERO
+#undef BANDERA
+#undef PAR
+#undef LINEAS
     Jugadas::Vaciar();
 }
 

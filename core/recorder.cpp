@@ -19,10 +19,6 @@ void EntornoRegistro::MostrarMensaje(const std::string& titulo, const std::strin
     mensajes.push_back({titulo, texto, icono});
 }
 
-void EntornoRegistro::ReiniciarRelojes() {
-    llamadas.push_back("ReiniciarRelojes");
-}
-
 void EntornoRegistro::CerrarListaPgn() {
     llamadas.push_back("CerrarListaPgn");
     listaPgnVisible = false;

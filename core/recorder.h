@@ -58,7 +58,6 @@ public:
     void PonerTextoReloj(int lado, const std::string& texto) override {
         relojes_[lado == 2] = texto;
     }
-    void ReiniciarRelojes() override;
 
     bool CpuVisible() override { return cpuVisible; }
     void DetenerTimersCpu() override { alMotor.push_back("DetenerTimersCpu"); }

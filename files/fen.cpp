@@ -1,5 +1,6 @@
 #include "files/fen.h"
 
+#include "core/clocks.h"
 #include "core/environment.h"
 #include "core/game_state.h"
 #include "core/move_list.h"
@@ -187,7 +188,7 @@ bool AbrirEpd() {
     Jugadas::Vaciar();
     VariablesCero();
     MovimientoAnulado();
-    dialogos().ReiniciarRelojes();
+    RelojesCero();
     TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = true;
     LineasPartida.assign(2, std::string());
     LineaActual = 0;

@@ -1,5 +1,6 @@
 #include "files/pgn_scanner.h"
 
+#include "core/clocks.h"
 #include "core/environment.h"
 #include "core/game_state.h"
 #include "core/move_list.h"
@@ -55,7 +56,7 @@ void AnadirATabla(std::string_view linea) {
 void CasoFen(std::string_view valor) {
     VariablesCero();
     dibujo().RedibujarTablero();
-    dialogos().ReiniciarRelojes();
+    RelojesCero();
     TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = true;
     PosicionPgn = -1;
     Turno = 0;

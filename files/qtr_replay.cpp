@@ -1,6 +1,7 @@
 #include "files/qtr_replay.h"
 
 #include "core/check_detection.h"
+#include "core/clocks.h"
 #include "core/environment.h"
 #include "core/game_end.h"
 #include "core/game_state.h"
@@ -57,24 +58,19 @@ bool LeerTokens(const std::string& ruta, ListaTextos& tokens) {
     return !lector.Fallo();
 }
 
-void PonerRelojCero(int lado) {
-    dialogos().PonerTextoReloj(lado, "00:00");
-}
-
-void RelojesCero() {
-    PonerRelojCero(1);
-    PonerRelojCero(2);
-}
-
 // The clock line of one side: at one machine the time is not kept.
 void LineaReloj(int lado, const std::string& s) {
-    if (Conectado) {
-        dialogos().PonerTextoReloj(lado, s.substr(0, 2) + ":" + s.substr(2, 2));
+    int32_t& minutos = lado == 1 ? MinutosBlancas : MinutosNegras;
+    int32_t& segundos = lado == 1 ? SegundosBlancas : SegundosNegras;
+    minutos = Conectado ? ValorTexto(s.substr(0, 2)) : 0;
+    segundos = Conectado ? ValorTexto(s.substr(2, 2)) : 0;
+    if (lado == 1)
+        PrintTimerB();
+    else
+        PrintTimerN();
+    if (Conectado)
         red().EnviarLineaPartida(lado == 1 ? LineaPartida::RelojBlancas : LineaPartida::RelojNegras,
                                  s);
-    } else {
-        PonerRelojCero(lado);
-    }
 }
 
 void Rehusar() {

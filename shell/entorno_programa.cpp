@@ -32,10 +32,6 @@ public:
     void PonerTextoReloj(int lado, const std::string& texto) override {
         if (QLabel* l = Etiqueta(lado)) l->setText(QString::fromStdString(texto));
     }
-    void ReiniciarRelojes() override {
-        PonerTextoReloj(1, "00:00");
-        PonerTextoReloj(2, "00:00");
-    }
 
 private:
     static QLabel* Etiqueta(int lado) {

@@ -31,7 +31,7 @@ std::string Bandera(bool b) {
 
 using Lector = std::function<std::string()>;
 
-// The scalar variables of the shared state, by name.
+// The scalar variables of the shared state, by name, from their one list.
 const std::map<std::string, Lector>& TablaVariables() {
     static const std::map<std::string, Lector> tabla = [] {
         std::map<std::string, Lector> t;
@@ -44,67 +44,19 @@ const std::map<std::string, Lector>& TablaVariables() {
         auto s = [&](const char* n, const std::string& v) {
             t[qa::Minusculas(n)] = [&v] { return v; };
         };
-        s("Origen", Origen);
-        s("Destino", Destino);
-        i("ColOrigen", ColOrigen);
-        i("FilaOrigen", FilaOrigen);
-        i("ColDestino", ColDestino);
-        i("FilaDestino", FilaDestino);
-        i("FichaMovida", FichaMovida);
-        i("FichaDestino", FichaDestino);
-        b("MovimientoValido", MovimientoValido);
-        b("SoloProbar", SoloProbar);
-        i("FilaRaton", FilaRaton);
-        i("ColRaton", ColRaton);
-        b("AlPasoPosible", AlPasoPosible);
-        i("AlPasoCasilla", AlPasoCasilla);
-        s("AlPasoTexto", AlPasoTexto);
-        b("AlPasoCaduca", AlPasoCaduca);
-        b("TorreA1Movida", TorreA1Movida);
-        b("TorreH1Movida", TorreH1Movida);
-        b("TorreA8Movida", TorreA8Movida);
-        b("TorreH8Movida", TorreH8Movida);
-        b("DerechosBlancas(1)", DerechosBlancas[1]);
-        b("DerechosBlancas(2)", DerechosBlancas[2]);
-        b("DerechosNegras(1)", DerechosNegras[1]);
-        b("DerechosNegras(2)", DerechosNegras[2]);
-        i("TipoEnroque", TipoEnroque);
-        b("EnroqueIntento", EnroqueIntento);
-        i("Turno", Turno);
-        b("Conectado", Conectado);
-        b("MedioTurno", MedioTurno);
-        i("NumeroJugada", NumeroJugada);
-        b("Ataque", Ataque);
-        b("Jaque", Jaque);
-        b("Mate", Mate);
-        b("Ahogado", Ahogado);
-        i("ReyCol", ReyCol);
-        i("ReyFila", ReyFila);
-        i("FichaGuardada", FichaGuardada);
-        s("Atacantes", Atacantes);
-        s("CasillaJaque", CasillaJaque);
-        s("JaqueDescubierto", JaqueDescubierto);
-        s("Capturadores", Capturadores);
-        b("BuscandoCaptura", BuscandoCaptura);
-        b("CasillaCoincide", CasillaCoincide);
-        b("OtraPieza", OtraPieza);
-        s("OtraCol", OtraCol);
-        s("OtraFila", OtraFila);
-        i("PiezaCoronacion", PiezaCoronacion);
-        i("FichaComidaCoronacion", FichaComidaCoronacion);
-        s("Notacion", Notacion);
-        s("NotacionTraducida", NotacionTraducida);
-        i("LineaActual", LineaActual);
-        i("ColorInicio", ColorInicio);
-        b("Cargando", Cargando);
-        b("Retrocediendo", Retrocediendo);
-        b("DesdePosicion", DesdePosicion);
-        b("EditandoTablero", EditandoTablero);
-        s("TipoPartida", TipoPartida);
-        s("ColorJugador", ColorJugador);
-        s("AlPasoFen", AlPasoFen);
-        b("MotorBlancas", MotorBlancas);
-        b("MotorNegras", MotorNegras);
+#define CASILLAS(n)
+#define TEXTO(n) s(#n, n);
+#define ENTERO(tipo, n) i(#n, n);
+#define BANDERA(n) b(#n, n);
+#define PAR(n) b(#n "(1)", n[1]), b(#n "(2)", n[2]);
+#define LINEAS(n)
+#include "core/game_state_list.h"
+#undef CASILLAS
+#undef TEXTO
+#undef ENTERO
+#undef BANDERA
+#undef PAR
+#undef LINEAS
         return t;
     }();
     return tabla;

@@ -194,6 +194,38 @@ TEST_F(Fichero, ReplayByTicks) {
     EXPECT_EQ(Turno, 2);
 }
 
+// The clock lines set the counters: at one machine to 0, over the network to the file's time.
+TEST_F(Fichero, ClockLinesOfAReplaySetTheCounters) {
+    const std::string ruta = Escribir("c.qtr", "0530\r\n0410\r\nR\r\n5254\r\n");
+    for (const bool conectado : {false, true}) {
+        MinutosBlancas = SegundosBlancas = MinutosNegras = SegundosNegras = 9;
+        Conectado = conectado;
+        ASSERT_TRUE(AbrirQtr(ruta));
+        EXPECT_EQ(MinutosBlancas, 9) << "the counters stand until the clock lines come";
+        EXPECT_EQ(SendQtr(), PasoQtr::Sigue);
+        EXPECT_EQ(SendQtr(), PasoQtr::Sigue);
+        EXPECT_EQ(entorno.TextoReloj(1), conectado ? "05:30" : "00:00");
+        EXPECT_EQ(entorno.TextoReloj(2), conectado ? "04:10" : "00:00");
+        EXPECT_EQ(MinutosBlancas, conectado ? 5 : 0);
+        EXPECT_EQ(SegundosBlancas, conectado ? 30 : 0);
+        EXPECT_EQ(MinutosNegras, conectado ? 4 : 0);
+        EXPECT_EQ(SegundosNegras, conectado ? 10 : 0);
+    }
+}
+
+// A stopped replay and a position opened as a new game both start the clocks from nothing.
+TEST_F(Fichero, StoppedReplayAndOpenedPositionZeroTheClocks) {
+    MinutosBlancas = SegundosNegras = 9;
+    EXPECT_FALSE(ReproducirQtr(Escribir("d.qtr", "0000\r\n0000\r\nA\r\n5255\r\n")));
+    EXPECT_EQ(MinutosBlancas + SegundosNegras, 0);
+    EXPECT_EQ(entorno.TextoReloj(1), "00:00");
+    MinutosBlancas = SegundosNegras = 9;
+    PosicionFen = "4k3/8/8/8/8/8/4P3/4K3 w - - 0 1";
+    ASSERT_TRUE(AbrirEpd());
+    EXPECT_EQ(MinutosBlancas + SegundosNegras, 0);
+    EXPECT_EQ(entorno.TextoReloj(2), "00:00");
+}
+
 TEST_F(Fichero, DamagedFileStopsWithTheMovesSoFar) {
     const std::string ruta =
         Escribir("d.qtr", "0000\r\n0000\r\nA\r\n5254\r\n5755\r\n5256\r\n6163\r\n");
