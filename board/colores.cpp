@@ -35,6 +35,7 @@ QColor Base(std::int64_t mas) {
 }
 
 // Each form repaints its own background when its size changes.
+constexpr const char* kFiltro = "AlRedimensionar";
 class AlRedimensionar : public QObject {
 public:
     using QObject::QObject;
@@ -100,12 +101,16 @@ QColor ColorInterior() {
 }
 
 void RegistrarFormulario(QWidget* formulario, int grupo) {
-    static AlRedimensionar* filtro = new AlRedimensionar();
     auto& r = Registrados();
     r.erase(std::remove_if(r.begin(), r.end(), [](const Registro& x) { return !x.formulario; }),
             r.end());
     r.push_back({formulario, grupo});
-    formulario->installEventFilter(filtro);
+    // The form owns its filter, so the filter goes with it.
+    if (!formulario->findChild<QObject*>(kFiltro, Qt::FindDirectChildrenOnly)) {
+        auto* filtro = new AlRedimensionar(formulario);
+        filtro->setObjectName(kFiltro);
+        formulario->installEventFilter(filtro);
+    }
 }
 
 void PintarFormularios(int codigo) {

@@ -32,34 +32,45 @@ namespace {
 
 using namespace Variables;
 
+// The replay's two timers, SendQtr and TimerRetrasoQTR; the board form owns them, as it owns
+// its other timers, so they end with it. Null without a board form.
 struct Temporizadores {
-    QTimer sendQtr, retraso;
-    Temporizadores() {
-        sendQtr.setInterval(100);
-        retraso.setInterval(100);
-        retraso.setSingleShot(true);
-        QObject::connect(&sendQtr, &QTimer::timeout, [this] {
-            const PasoQtr paso = SendQtr();
-            dibujo().RedibujarTablero();
-            if (paso == PasoQtr::Sigue) return;
-            sendQtr.stop();
-            if (paso == PasoQtr::Final) retraso.start();
-        });
-        QObject::connect(&retraso, &QTimer::timeout, [] {
-            TimerRetrasoQtr();
-            dibujo().RedibujarTablero();
-        });
-    }
+    QTimer* sendQtr = nullptr;
+    QTimer* retraso = nullptr;
 };
 
-Temporizadores& Timers() {
-    static Temporizadores t;
-    return t;
+Temporizadores Timers() {
+    QWidget* tablero = Forms().quintarena;
+    if (!tablero) return {};
+    constexpr auto kDirectos = Qt::FindDirectChildrenOnly;
+    if (auto* sendQtr = tablero->findChild<QTimer*>("SendQtr", kDirectos))
+        return {sendQtr, tablero->findChild<QTimer*>("TimerRetrasoQTR", kDirectos)};
+    auto* sendQtr = new QTimer(tablero);
+    auto* retraso = new QTimer(tablero);
+    sendQtr->setObjectName("SendQtr");
+    retraso->setObjectName("TimerRetrasoQTR");
+    sendQtr->setInterval(100);
+    retraso->setInterval(100);
+    retraso->setSingleShot(true);
+    QObject::connect(sendQtr, &QTimer::timeout, retraso, [sendQtr, retraso] {
+        const PasoQtr paso = SendQtr();
+        dibujo().RedibujarTablero();
+        if (paso == PasoQtr::Sigue) return;
+        sendQtr->stop();
+        if (paso == PasoQtr::Final) retraso->start();
+    });
+    QObject::connect(retraso, &QTimer::timeout, retraso, [] {
+        TimerRetrasoQtr();
+        dibujo().RedibujarTablero();
+    });
+    return {sendQtr, retraso};
 }
 
 void AbrirPartidaQtr(const std::string& ruta) {
-    Timers().sendQtr.stop();
-    Timers().retraso.stop();
+    const Temporizadores t = Timers();
+    if (!t.sendQtr) return;
+    t.sendQtr->stop();
+    t.retraso->stop();
     // The file says what kind of game it is; nothing of the one before is kept.
     TipoPartida.clear();
     ColorJugador.clear();
@@ -71,7 +82,7 @@ void AbrirPartidaQtr(const std::string& ruta) {
         Forms().mdi->Comando("mnuInvertirTablero");
     }
     dibujo().RedibujarTablero();
-    Timers().sendQtr.start();
+    t.sendQtr->start();
 }
 
 std::string& CarpetaGuardar() {

@@ -6,6 +6,7 @@
 #include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
+#include "platform/sonido.h"
 #include "platform/texto.h"
 #include "shell/actualizar.h"
 #include "shell/arranque.h"
@@ -33,7 +34,9 @@ namespace qa {
 
 bool CierrePendiente = false;
 
-Mdi::Mdi() : area_(new QMdiArea), barra_(new BarraEstado), tStatus_(new QTimer(this)) {
+Mdi::Mdi()
+    : area_(new QMdiArea), barra_(new BarraEstado), tStatus_(new QTimer(this)),
+      altavoz_(new Altavoz(this)) {
     setObjectName("Mdi");
     setWindowTitle("Quintarena");
     auto* cuerpo = new QWidget;

@@ -12,6 +12,7 @@ class QToolBar;
 
 namespace qa {
 
+class Altavoz;
 class BarraEstado;
 
 // Set by the close handler while a connection is still up; the network layer, when the link
@@ -32,6 +33,8 @@ public:
     // Toolbar button by its index, 1 to 27; separators are buttons too.
     QAction* Boton(int indice) const;
     QTimer* TStatus() const { return tStatus_; }
+    // The program's sounds play here, so they end with the main window.
+    Altavoz* Sonido() const { return altavoz_; }
 
     void AplicarIdioma();
     // Unloads the main window: the close handler decides whether it goes.
@@ -63,6 +66,7 @@ private:
     BarraEstado* barra_;
     QToolBar* toolbar_ = nullptr;
     QTimer* tStatus_;
+    Altavoz* altavoz_;
     QMenu* menuJugadas_ = nullptr;
     QMenu* menuChat_ = nullptr;
     std::map<std::string, QAction*> entradas_;

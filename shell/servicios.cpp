@@ -102,7 +102,7 @@ void Sonar(int n) {
     if (!Marcada("mnuSonido") || n < 1 || n > 5) return;
     const std::string fichero = carpeta + kSonidos[n];
     if (ExisteRuta(fichero)) {
-        ReproducirSonido(RutaReal(fichero));
+        if (Forms().mdi) Forms().mdi->Sonido()->Reproducir(RutaReal(fichero));
         return;
     }
     // Said once: the sound goes off until the user turns it on again.
