@@ -2,7 +2,7 @@
 // Check, mate and stalemate tests over TableroCopia. There is no move
 // generator: attack walkers fill an attack map (-1 on touched empty squares),
 // reach walkers ask whether a defender can get to a square. The verdicts have
-// gaps that are part of the game as this system plays it; keep them.
+// gaps on purpose: two copies of the program must judge every position alike.
 
 #include <cstdint>
 #include <string>

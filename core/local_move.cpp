@@ -11,7 +11,7 @@ namespace Variables {
 namespace {
 
 // A refused en passant capture puts a piece back, by the mover's colour: a white rook where a
-// black pawn stood, kept as it is. An accepted one clears the victim's square.
+// black pawn stood, on purpose. An accepted one clears the victim's square.
 void ReparacionAlPaso() {
     if (AlPasoTexto.empty()) return;
     if (!MovimientoValido) {

@@ -1,6 +1,6 @@
 #pragma once
 // Positions as one text line in the manner of FEN. The castling letters are
-// this system's own: upper case speaks of Black's rooks, lower case of
+// our own: upper case speaks of Black's rooks, lower case of
 // White's, and "K" is the a-rook. Two copies of the program agree on it.
 
 #include <array>

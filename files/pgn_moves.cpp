@@ -112,7 +112,7 @@ void Peon(const std::string& j, int color) {
     Jugar(co, fo, cd, fd);
     if (!AlPasoTexto.empty()) {
         if (!MovimientoValido) {
-            // The victim comes back as code 1 for Black's move and 2 for White's: kept.
+            // The victim comes back as code 1 for Black's move and 2 for White's, on purpose.
             if (EnCasilla(ColDestino) && EnCasilla(FilaOrigen))
                 Tablero[ColDestino][FilaOrigen] = color == 2 ? PeonB : TorreB;
         } else {

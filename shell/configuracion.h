@@ -9,7 +9,7 @@ struct Lugar {
     double top = 0, left = 0, width = 0, height = 0; // twips
 };
 
-// Values that belong to forms of later parts (new game, engine levels, colours, PGN browser).
+// Values of forms the shell does not have yet (new game, engine levels, colours, PGN browser).
 // They stand here so the settings make the round trip until those forms hold them.
 struct ControlesPendientes {
     std::string Nick;

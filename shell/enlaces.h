@@ -1,7 +1,7 @@
 #pragma once
-// What the later parts of the program plug into the shell: loaders, the network and engine
-// state, and the commands of the menu. An empty hook is a part that has not landed yet; the
-// shell then does nothing in its place.
+// Hooks through which the file, network and engine layers plug into the shell: loaders, their
+// state, and the commands of the menu. An empty hook is a layer that is not built in; the shell
+// then does nothing in its place.
 #include <functional>
 #include <map>
 #include <string>
@@ -11,7 +11,7 @@ class QWidget;
 namespace qa {
 
 struct Enlaces {
-    // Loaders of the three file types (Parts on game files and browsers).
+    // Loaders of the three file types.
     std::function<void(const std::string&)> CargarPgn, AbrirQtr, AbrirEpd;
 
     // State owned by other forms. Whether a peer is connected is the core's Conectado; whether
@@ -20,7 +20,7 @@ struct Enlaces {
     std::function<bool()> ConexionCommand1Enabled, ModoEdicion, Cargando;
     std::function<std::string()> NombreRemoto;
 
-    // Steps of the close and the load that belong to other parts.
+    // Steps of the close and the load that belong to the other layers.
     std::function<void()> CerrarMotores, DescargarDLL, CerrarSockets, Desconectar, CambiarNick;
     std::function<void()> CargarImagenes, NotacionCambiada, PointClickCambiado, PintarFondos;
     std::function<int()> AlturaFichas; // height of the piece buffers, for the size setting

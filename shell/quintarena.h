@@ -1,6 +1,6 @@
 #pragma once
 // The board form. Its load brings the program up; the board picture itself (PicBuffer) is
-// a widget the board part puts in with PonerTablero.
+// a widget the board library puts in with PonerTablero.
 #include "shell/formulario_hijo.h"
 
 namespace qa {
@@ -14,7 +14,7 @@ public:
     // file registration, pictures and window places.
     void Cargar();
     QWidget* PicBuffer() const { return picBuffer_; }
-    // The board part's own picture replaces the empty one; the old one is deleted.
+    // The board library's picture replaces the empty one; the old one is deleted.
     void PonerTablero(QWidget* tablero);
 
     // The colour and width checks of the screen; false unloads the main window.

@@ -1,4 +1,4 @@
-// Positions as text lines, with this system's castling letters.
+// Positions as text lines, with our castling letters.
 #include "core/move_list.h"
 #include "core/takeback.h"
 #include "files/fen.h"

@@ -1,4 +1,4 @@
-// The piece rules, castling and en passant as this system plays them,
+// The piece rules, castling and en passant as the program plays them,
 // odd cases included.
 #include "core/move_filter.h"
 #include "test_support.h"
@@ -71,7 +71,7 @@ TEST_F(Filtro, ProbeOfEnPassantTakesTheVictimOff) {
     Nueva();
     Jugar({"e2e4", "a7a6", "e4e5", "d7d5"});
     EXPECT_TRUE(Probar("e5d6"));
-    EXPECT_EQ(En("d5"), 0) << "settled: nothing repairs a probed en passant victim";
+    EXPECT_EQ(En("d5"), 0) << "by design: nothing repairs a probed en passant victim";
 }
 
 TEST_F(Filtro, BishopWalkOffTheBoard) {

@@ -26,11 +26,11 @@ struct Resumen {
 // Why a game stopped short, from the first move that did not play.
 std::string Motivo(const std::string& jugada, bool falla) {
     if (!jugada.empty() && jugada[0] == ' ')
-        return "rows out of step: a move written as 12...e5 was lost with its number (kept)";
+        return "rows out of step: a move written as 12...e5 was lost with its number (by design)";
     if (jugada.find('#') != std::string::npos && (jugada[0] == 'O' || jugada[0] == '0'))
-        return "castling written with # is not read (kept)";
+        return "castling written with # is not read (by design)";
     if (falla) return "piece move refused (message 52)";
-    return "pawn, king or long castling move refused or unreadable (left as a hole, kept)";
+    return "pawn, king or long castling move refused or unreadable (left as a hole, by design)";
 }
 
 Resumen Revisar(const std::string& ruta) {
