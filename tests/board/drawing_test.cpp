@@ -23,7 +23,7 @@ TEST_F(TableroTest, SizeFollowsTamanoAndPiecesFillTheirSquares) {
         QObject::connect(vista.get(), &qa::VistaTablero::TamanoCambiado,
                          [&avisado](QSize s) { avisado = s; });
         vista->PonerTamano(tamano);
-        QTest::qWait(60); // the resize timer
+        ASSERT_TRUE(EsperarRedimension());
         EXPECT_EQ(pic()->size(), QSize(8 * tamano, 8 * tamano));
         EXPECT_EQ(pic()->AnchoCasilla, tamano);
         EXPECT_EQ(avisado, vista->size()) << "the form is told";
@@ -51,7 +51,7 @@ TEST_F(TableroTest, FramesStayOnTheirSquaresThroughAResizeAndATurn) {
     Arrastrar(2, 1, 3, 3);
     ASSERT_TRUE(pic()->MarcosMostrados());
     vista->PonerTamano(44);
-    QTest::qWait(60);
+    ASSERT_TRUE(EsperarRedimension());
     EXPECT_EQ(pic()->MarcoEn(0), QPoint(2, 1));
     EXPECT_EQ(pic()->MarcoEn(1), QPoint(3, 3));
     vista->PonerInvertido(true);
@@ -107,6 +107,6 @@ TEST_F(TableroTest, SizeBoxAndItsSpinButtonsKeepToThirtyToAHundred) {
     EXPECT_EQ(vista->TamanoMenos("30"), "30");
     EXPECT_EQ(vista->TamanoMenos("140"), "100");
     EXPECT_EQ(vista->TamanoMenos("45"), "44");
-    QTest::qWait(60);
+    ASSERT_TRUE(EsperarRedimension());
     EXPECT_EQ(pic()->AnchoCasilla, 44);
 }

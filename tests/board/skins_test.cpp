@@ -5,7 +5,6 @@
 
 #include "core/game_state.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QSignalSpy>
@@ -23,8 +22,7 @@ protected:
     }
     // A copy of the coral skin under another name, less the files named.
     void Copiar(const QString& nombre, const QStringList& sin = {}) {
-        // The data files lie beside the executables.
-        const QDir origen(QCoreApplication::applicationDirPath() + "/apariencias/coral");
+        const QDir origen(QStringLiteral(QA_DATOS "/apariencias/coral"));
         ASSERT_TRUE(origen.exists());
         QDir(dir.path()).mkdir(nombre);
         for (const QString& f : origen.entryList(QDir::Files))
@@ -39,7 +37,7 @@ TEST_F(SkinTest, CoralLoadsAndTheListIsInLowerCase) {
     const QStringList lista = vista->ActualizarSkins();
     EXPECT_EQ(lista, (QStringList{"(Classic)", "coral"}));
     EXPECT_TRUE(vista->PonerApariencia("coral"));
-    QTest::qWait(60);
+    ASSERT_TRUE(EsperarRedimension());
     EXPECT_EQ(vista->Apariencia(), "coral");
     EXPECT_EQ(vista->TamanoSkin(), QSize(60, 60));
     EXPECT_TRUE(pic()->ConSkin());

@@ -20,7 +20,7 @@ protected:
     std::string Mensajes() const;
 };
 
-// Folder of the real collections the test step unpacked, or empty.
+// Folder of the real collections the test step unpacked; empty when run outside CTest.
 std::string DatosReales();
 
 } // namespace prueba

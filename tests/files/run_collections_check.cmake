@@ -1,8 +1,8 @@
 # Every game of the real collections must list; the games of those in
 # standard export form must replay to their last move.
 if(NOT EXISTS ${DATA}/.stamp)
-  message("no test data")
-  return()
+  message(FATAL_ERROR "no test data in ${DATA}: files_fetch_data could not fetch the collections "
+                      "(see its output; it needs the Debian archive and the npm registry)")
 endif()
 execute_process(COMMAND ${CHECK} --strict ${DATA}/wcc.pgn --strict ${DATA}/chessjs-benchmark.pgn
                 ${DATA}/pychess-puzzles.pgn ${DATA}/pychess-lessons.pgn ${DATA}/eco.pgn

@@ -2,10 +2,13 @@
 #include "prueba_programa.h"
 
 #include "language/idioma.h"
+#include "platform/descarga.h"
 #include "shell/actualizar.h"
 #include "shell/arranque.h"
+#include "shell/formularios.h"
 #include "shell/splash.h"
 
+#include <QNetworkReply>
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <gtest/gtest.h>
@@ -51,11 +54,17 @@ protected:
         ASSERT_TRUE(Main({"quintarena"}));
         cajas.vistas.clear(); // the registration questions of the first start
     }
+    // Reads under way: the request is made at once, its answer comes on the event loop.
+    static qsizetype Lecturas() {
+        return Forms().splash->rkDownload1()->findChildren<QNetworkReply*>().size();
+    }
     // Asks, says Yes, and waits for the box that ends the check.
     std::string Comprobar(const Servidor& s) {
         cajas.vistas.clear();
         cajas.respuestas = {kRespuestaSi, kRespuestaNo};
+        const qsizetype antes = Lecturas();
         Actualizar(s.Base());
+        EXPECT_EQ(Lecturas(), antes + 1);
         prueba::Esperar([&] { return cajas.vistas.size() >= 2; });
         return cajas.vistas.size() >= 2 ? cajas.vistas[1].texto : "";
     }
@@ -84,8 +93,10 @@ TEST_F(Actualizacion, FailedReadSaysSo) {
 TEST_F(Actualizacion, NoAsksNothingFurther) {
     Servidor s(Http("1.56"));
     cajas.respuestas = {kRespuestaNo};
+    const qsizetype antes = Lecturas();
     Actualizar(s.Base());
-    prueba::Esperar([] { return false; }, 300);
+    EXPECT_EQ(Lecturas(), antes) << "no read was started";
+    EXPECT_FALSE(Forms().splash->isVisible());
     ASSERT_EQ(cajas.vistas.size(), 1u);
     EXPECT_EQ(cajas.vistas[0].botones, kBotonesSiNo);
 }

@@ -25,7 +25,6 @@
 
 #include <QAction>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
@@ -463,8 +462,7 @@ TEST(Programa, DroppedFiles) {
 }
 
 TEST(Idiomas, ShippedFilesHoldEveryKey) {
-    const fs::path dir = QCoreApplication::applicationDirPath().toStdString();
-    FijarDirectorioPrograma(dir.string());
+    FijarDirectorioPrograma(QA_DATOS);
     int avisos = 0;
     FijarAvisoIdiomaIncorrecto([&] { ++avisos; });
     for (const char* f : {"Español.lng", "English.lng"}) {

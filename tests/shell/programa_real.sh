@@ -1,13 +1,15 @@
 #!/usr/bin/env bash
-# Starts the real executable offscreen in a scratch copy of its folder, ends it with SIGTERM as a
-# session logout would, and checks what it leaves behind.
-#   programa_real.sh <build-dir>
+# Starts the real executable offscreen in a scratch folder with the shipped data files, ends it
+# with SIGTERM as a session logout would, and checks what it leaves behind. The data come from the
+# source tree: the copies in the build folder change whenever the program is started there.
+#   programa_real.sh <executable> <source data folder>
 set -euo pipefail
-build="$1"
+programa="$1"
+datos="$2"
 dir="$(mktemp -d)"
 trap 'rm -rf "$dir"' EXIT
-cp "$build/quintarena" "$build/Default.ini" "$build"/*.lng "$dir/"
-cp -r "$build/Sonidos" "$dir/"
+cp "$programa" "$datos/Default.ini" "$datos"/*.lng "$dir/"
+cp -r "$datos/Sonidos" "$dir/"
 # No registration questions: a box would wait for a click that never comes.
 sed -i 's/^Regit\(Qtr\|Pgn\|Epd\)=0/Regit\1=1/' "$dir/Default.ini"
 cp "$dir/Default.ini" "$dir/antes.ini"
@@ -16,11 +18,12 @@ mkdir -m 700 "$dir/run"
 
 "$dir/quintarena" "$dir/NOTAS.TXT" >"$dir/salida.txt" 2>&1 &
 pid=$!
+# The record is written during the load, after the signal handler is in place; a signal that
+# comes before the event loop runs waits for it.
 for _ in $(seq 1 300); do
   [ -s "$dir/Puntuacion.dat" ] && break
   sleep 0.1
 done
-sleep 1
 kill -TERM "$pid"
 codigo=0
 wait "$pid" || codigo=$?

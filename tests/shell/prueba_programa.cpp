@@ -29,7 +29,7 @@ Carpeta::Carpeta() {
            ("qa-shell-" + std::to_string(::getpid()) + "-" + std::to_string(++n));
     fs::remove_all(dir_);
     fs::create_directories(dir_);
-    const fs::path origen = QCoreApplication::applicationDirPath().toStdString();
+    const fs::path origen = QA_DATOS;
     for (const char* f : {"Default.ini", "Español.lng", "English.lng"})
         fs::copy_file(origen / f, dir_ / f);
     fs::copy(origen / "Sonidos", dir_ / "Sonidos", fs::copy_options::recursive);

@@ -20,7 +20,7 @@ struct Caja {
 
 class Carpeta {
 public:
-    // Copies Default.ini, the language files and the sounds that lie beside the test.
+    // Copies the shipped Default.ini, language files and sounds from the source tree.
     Carpeta();
     ~Carpeta();
     std::filesystem::path Ruta(const std::string& nombre = "") const { return dir_ / nombre; }
