@@ -83,12 +83,6 @@ void RestablecerTodo() {
 #define PAR(n) n[0] = n[1] = n[2] = false;
 #define LINEAS(n) n.assign(1, std::string());
 #include "core/game_state_list.h"
-#undef CASILLAS
-#undef TEXTO
-#undef ENTERO
-#undef BANDERA
-#undef PAR
-#undef LINEAS
     Jugadas::Vaciar();
 }
 

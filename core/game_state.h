@@ -45,12 +45,6 @@ inline bool EnCasilla(int32_t c) {
 #define PAR(n) inline bool n[3];
 #define LINEAS(n) inline ListaTextos n;
 #include "core/game_state_list.h"
-#undef CASILLAS
-#undef TEXTO
-#undef ENTERO
-#undef BANDERA
-#undef PAR
-#undef LINEAS
 
 // The reset a game starts with; board, Turno and the en passant right survive it.
 void VariablesCero();

@@ -7,7 +7,8 @@
 //   PAR(n)            two flags, indexed 1 and 2; `get` knows them as n(1) and n(2)
 //   CASILLAS(n)       a board [column][row], 0..8 each; not in `get` (the `board` command)
 //   LINEAS(n)         lines, 1-based with element 0 unused; not in `get`
-// No include guard: every includer expands the list its own way.
+// No include guard: every includer defines the six macros and expands the list its own way; the
+// list undefines them at its end.
 
 // clang-format off
 
@@ -101,3 +102,10 @@ BANDERA(MotorNegras)
 BANDERA(ArrastreCancelado)
 
 // clang-format on
+
+#undef CASILLAS
+#undef TEXTO
+#undef ENTERO
+#undef BANDERA
+#undef PAR
+#undef LINEAS

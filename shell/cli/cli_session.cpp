@@ -51,12 +51,6 @@ const std::map<std::string, Lector>& TablaVariables() {
 #define PAR(n) b(#n "(1)", n[1]), b(#n "(2)", n[2]);
 #define LINEAS(n)
 #include "core/game_state_list.h"
-#undef CASILLAS
-#undef TEXTO
-#undef ENTERO
-#undef BANDERA
-#undef PAR
-#undef LINEAS
         return t;
     }();
     return tabla;

@@ -17,12 +17,6 @@ void TodoDistinto() {
 #define PAR(n) n[1] = n[2] = true;
 #define LINEAS(n) n.assign(3, "5254");
 #include "core/game_state_list.h"
-#undef CASILLAS
-#undef TEXTO
-#undef ENTERO
-#undef BANDERA
-#undef PAR
-#undef LINEAS
 }
 
 using Estado = prueba::Partida;
@@ -37,12 +31,6 @@ TEST_F(Estado, FreshStartResetsEveryVariableOfTheList) {
 #define PAR(n) EXPECT_FALSE(n[1] || n[2]) << #n;
 #define LINEAS(n) EXPECT_EQ(n, std::vector<std::string>(1)) << #n;
 #include "core/game_state_list.h"
-#undef CASILLAS
-#undef TEXTO
-#undef ENTERO
-#undef BANDERA
-#undef PAR
-#undef LINEAS
 }
 
 TEST_F(Estado, NewGameResetKeepsWhatLivesOnAndTheClocks) {
