@@ -1,5 +1,7 @@
 #include "shell/reloj.h"
 
+#include "core/clocks.h"
+#include "core/game_state.h"
 #include "language/idioma.h"
 
 #include <QGridLayout>
@@ -12,10 +14,13 @@ Reloj::Reloj() : FormularioHijo("mnuReloj") {
     auto* cuerpo = new QWidget;
     auto* rejilla = new QGridLayout(cuerpo);
     for (int i = 1; i <= 4; ++i) {
-        etiquetas_[i] = new QLabel(i > 2 ? "00:00" : ""); // as the counters print at zero
+        etiquetas_[i] = new QLabel;
         etiquetas_[i]->setObjectName(QString("Label%1").arg(i));
         rejilla->addWidget(etiquetas_[i], (i - 1) % 2, (i - 1) / 2);
     }
+    using namespace Variables;
+    etiquetas_[3]->setText(QString::fromStdString(TextoTiempo(MinutosBlancas, SegundosBlancas)));
+    etiquetas_[4]->setText(QString::fromStdString(TextoTiempo(MinutosNegras, SegundosNegras)));
     QFont grande = etiquetas_[3]->font();
     grande.setPointSize(grande.pointSize() + 6);
     grande.setBold(true);
