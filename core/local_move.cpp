@@ -1,5 +1,6 @@
 #include "core/local_move.h"
 
+#include "core/clocks.h"
 #include "core/environment.h"
 #include "core/game_state.h"
 #include "core/move_filter.h"
@@ -54,9 +55,8 @@ void PasarTurno() {
 
 void NuevaPartidaLocal() {
     // Nothing of what came before, a game from a position or a replayed file, stays: clocks
-    // shown at zero, no game kind or colour, nothing loading.
-    dialogos().PonerTextoReloj(1, "00:00");
-    dialogos().PonerTextoReloj(2, "00:00");
+    // at zero, no game kind or colour, nothing loading.
+    RelojesCero();
     DesdePosicion = false;
     TipoPartida.clear();
     ColorJugador.clear();

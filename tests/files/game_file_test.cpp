@@ -213,8 +213,9 @@ TEST_F(Fichero, ClockLinesOfAReplaySetTheCounters) {
     }
 }
 
-// A stopped replay and a position opened as a new game both start the clocks from nothing.
-TEST_F(Fichero, StoppedReplayAndOpenedPositionZeroTheClocks) {
+// A stopped replay, a position opened as a new game and a new game all start the clocks from
+// nothing.
+TEST_F(Fichero, StoppedReplayOpenedPositionAndNewGameZeroTheClocks) {
     MinutosBlancas = SegundosNegras = 9;
     EXPECT_FALSE(ReproducirQtr(Escribir("d.qtr", "0000\r\n0000\r\nA\r\n5255\r\n")));
     EXPECT_EQ(MinutosBlancas + SegundosNegras, 0);
@@ -224,6 +225,10 @@ TEST_F(Fichero, StoppedReplayAndOpenedPositionZeroTheClocks) {
     ASSERT_TRUE(AbrirEpd());
     EXPECT_EQ(MinutosBlancas + SegundosNegras, 0);
     EXPECT_EQ(entorno.TextoReloj(2), "00:00");
+    MinutosBlancas = SegundosNegras = 9;
+    Nueva();
+    EXPECT_EQ(MinutosBlancas + SegundosNegras, 0);
+    EXPECT_EQ(entorno.TextoReloj(1), "00:00");
 }
 
 TEST_F(Fichero, DamagedFileStopsWithTheMovesSoFar) {
