@@ -44,9 +44,9 @@ antes="$(ls -A "$carpeta")"
 "${comun[@]}" "$prefijo/bin/quintarena" >"$raiz/salida.txt" 2>&1 &
 pid=$!
 datos="$casa/.local/share/Quintarena"
-# The rating record is written at the end of the start; a program that died is not waited for.
+# The rating record is written at the end of the start, after the signal handler is in place; a
+# signal that comes before the event loop runs waits for it. A program that died is not waited for.
 until [ -s "$datos/Puntuacion.dat" ] || ! kill -0 "$pid" 2>/dev/null; do sleep 0.1; done
-sleep 1
 kill -TERM "$pid" 2>/dev/null || true
 codigo=0
 wait "$pid" || codigo=$?
