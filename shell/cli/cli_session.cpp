@@ -92,7 +92,6 @@ public:
     void Sonar(int) override {}
     void SumaDePartidas(int) override {}
     void AvisoCargando(const std::string&) override {}
-    void ReiniciarRelojes() override {}
     void MostrarVentanas() override {}
     void CerrarListaPgn() override { listaPgnVisible = false; }
     // The text of a message that a caller adds to, as the game files do.
