@@ -175,7 +175,7 @@ bool VistaTablero::PonerApariencia(const QString& nombre) {
         apariencia_ = nombreBase_;
         Redimensionar();
         emit AparienciaCambiada(nombreBase_);
-        dialogos().MostrarMensaje("Quintarena", "25", kIconoInformacion, 0, 0);
+        MostrarAviso(25);
         return false;
     }
     pic_->PonerSkin(std::move(skin));

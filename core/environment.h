@@ -5,6 +5,8 @@
 // installed goes to a shared headless recorder (core/recorder.h), so the rules run the same with
 // or without a window. Every call is pure virtual: a role the program forgets does not compile.
 
+#include "platform/mensajes.h"
+
 #include <string>
 
 // The board's picture and the forms that belong to it.
@@ -70,3 +72,9 @@ void InstalarDibujo(EntornoDibujo* e);
 void InstalarDialogos(EntornoDialogos* e);
 void InstalarMotor(EntornoMotor* e);
 void InstalarListas(EntornoListas* e);
+
+// Message `numero` of the language file in the program's box, with one button.
+inline void MostrarAviso(int numero, int icono = qa::kIconoInformacion) {
+    dialogos().MostrarMensaje(qa::kTituloMensajes, std::to_string(numero), icono, qa::kBotonAceptar,
+                              0);
+}

@@ -28,7 +28,7 @@ void FinPorMate() {
     MovimientoAnulado();
     VariablesCero();
     if (motor().CpuVisible()) motor().DetenerTimersCpu();
-    dialogos().MostrarMensaje("Quintarena", ganaBlanco ? "1" : "2", qa::kIconoInformacion, 0, 0);
+    MostrarAviso(ganaBlanco ? 1 : 2);
 }
 
 // No sound and no engine timers stopped here, unlike mate.
@@ -37,7 +37,7 @@ void FinPorAhogado() {
     TerminarPartida();
     MovimientoAnulado();
     VariablesCero();
-    dialogos().MostrarMensaje("Quintarena", "3", qa::kIconoInformacion, 0, 0);
+    MostrarAviso(3);
 }
 
 } // namespace Variables

@@ -53,7 +53,7 @@ bool LeerEPD(const std::string& ruta) {
         if (LeerFen(PosicionFen)) {
             Eventos.push_back(PosicionFen);
         } else if (Eventos.empty()) {
-            dialogos().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
+            MostrarAviso(55);
             if (Conectado) red().CancelarEpd();
             return true;
         }

@@ -29,7 +29,7 @@ std::string Tiempo(const std::string& rotulo) {
 
 Guardado Escribir(const std::string& texto) {
     if (!qa::EscribirFichero(RutaPartida, texto)) return Guardado::Fallo;
-    dialogos().MostrarMensaje("Quintarena", "34", kIconoInformacion, 0, 0);
+    MostrarAviso(34);
     RutaPartida.clear();
     return Guardado::Hecho;
 }
@@ -87,7 +87,7 @@ Guardado GuardarPartida(const std::string& ruta) {
     if (!qa::QuitarSoloLectura(ruta)) {
         const std::string t =
             qa::ReemplazarDolar(dialogos().Mensaje(28), qa::FinLinea + ruta + qa::FinLinea);
-        dialogos().MostrarMensaje("Quintarena", t, kIconoInformacion, 0, 0);
+        dialogos().MostrarMensaje(qa::kTituloMensajes, t, kIconoInformacion, 0, 0);
         RutaPartida.clear();
         return Guardado::Fallo;
     }

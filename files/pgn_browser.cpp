@@ -38,8 +38,7 @@ void Seleccionar(int32_t i) {
 void JugarHasta(int32_t hasta) {
     PosicionInicial();
     for (int32_t i = 0; i <= hasta && i <= Ultima(); ++i)
-        if (!JugarEntradaPgn(static_cast<size_t>(i)))
-            dialogos().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
+        if (!JugarEntradaPgn(static_cast<size_t>(i))) MostrarAviso(27);
     dibujo().RedibujarTablero();
 }
 
@@ -90,7 +89,7 @@ void CargarPartidaPgn() {
     LeerCabecerasPgn(FicheroPgn);
     if (PgnConFen) return;
     if (TotalPartidas == 0) {
-        dialogos().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
+        MostrarAviso(55);
     } else {
         LeerMovimientosPgn(FicheroPgn);
         const auto& filas = ListaPgn::PgnMovimientos;
@@ -119,8 +118,7 @@ void AvanzarPgn() {
     if (PosicionPgn >= Ultima()) return;
     ++PosicionPgn;
     Seleccionar(PosicionPgn);
-    if (!JugarEntradaPgn(static_cast<size_t>(PosicionPgn)))
-        dialogos().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
+    if (!JugarEntradaPgn(static_cast<size_t>(PosicionPgn))) MostrarAviso(27);
     dibujo().RedibujarTablero();
 }
 

@@ -45,7 +45,7 @@ void Anotar() {
 }
 
 void Fallo(const std::string& jugada) {
-    dialogos().MostrarMensaje("Quintarena", dialogos().Mensaje(52) + " " + jugada,
+    dialogos().MostrarMensaje(qa::kTituloMensajes, dialogos().Mensaje(52) + " " + jugada,
                               kIconoInformacion, 0, 0);
     FallaPgn = true;
 }

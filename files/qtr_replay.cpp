@@ -76,7 +76,7 @@ void LineaReloj(int lado, const std::string& s) {
 void Rehusar() {
     Turno = 0;
     ColorInicio = 0;
-    dialogos().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
+    MostrarAviso(27);
     if (Conectado) red().EnviarErrorPartida();
     LineasPartida.assign(2, std::string());
     dibujo().RedibujarTablero();
@@ -87,7 +87,7 @@ void Rehusar() {
     MovimientoAnulado();
     EditandoTablero = false;
     if (!listas().ListaPgnVisible()) listas().MostrarVentanas();
-    dialogos().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
+    MostrarAviso(55);
     RelojesCero();
 }
 
@@ -97,7 +97,7 @@ bool AbrirQtr(const std::string& ruta) {
     ListaTextos lineas;
     lineas.emplace_back();
     if (!LeerTokens(ruta, lineas)) {
-        dialogos().MostrarMensaje("Quintarena", "27", kIconoInformacion, 0, 0);
+        MostrarAviso(27);
         return false;
     }
     if (listas().ListaPgnVisible()) {
@@ -196,7 +196,7 @@ void TimerRetrasoQtr() {
     dibujo().RedibujarTablero();
     Cargando = false;
     if (Jugadas::List[1].empty()) {
-        dialogos().MostrarMensaje("Quintarena", "55", kIconoInformacion, 0, 0);
+        MostrarAviso(55);
         RelojesCero();
     }
 }

@@ -63,11 +63,11 @@ TEST_F(Formularios, BrowserListsStepsAndChooses) {
     qa::ListaPgnF f;
     QSignalSpy cambios(&f, &qa::ListaPgnF::TableroCambiado);
     f.Abrir(QString::fromStdString(Escribir("dos.pgn", kDos)));
-    QTRY_COMPARE(TotalPartidas, 2);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return TotalPartidas == 2; })) << "TotalPartidas";
     auto* lista = f.findChild<QListView*>("Eventos");
     auto* filas = f.findChild<QListWidget*>("PgnMovimientos");
     ASSERT_TRUE(lista && filas);
-    QTRY_COMPARE(filas->count(), 3);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return filas->count() == 3; })) << "filas->count()";
     EXPECT_EQ(lista->model()->rowCount(), 2);
     EXPECT_FALSE(cambios.isEmpty());
 
@@ -78,8 +78,9 @@ TEST_F(Formularios, BrowserListsStepsAndChooses) {
     EXPECT_EQ(Tablero[5][4], PeonB);
 
     ClicFila(lista, 1);
-    QTRY_COMPARE(ListaPgn::Text1[0], std::string("Dos"));
-    QTRY_COMPARE(filas->count(), 2);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return ListaPgn::Text1[0] == std::string("Dos"); }))
+        << "ListaPgn::Text1[0]";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return filas->count() == 2; })) << "filas->count()";
     EXPECT_EQ(Tablero[4][5], PeonN);
 
     QSignalSpy cerrado(&f, &qa::ListaPgnF::Cerrado);
