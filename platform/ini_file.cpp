@@ -287,6 +287,11 @@ bool IniLegible(const std::string& fichero) {
     return !fichero.empty() && CopiaDe(fichero) != nullptr;
 }
 
+bool LeerFicheroRegular(const std::string& ruta, std::string& bytes) {
+    struct stat st {};
+    return LeerBytes(ruta, bytes, st);
+}
+
 bool EscribirIni(const std::string& fichero, const std::string& seccion, const std::string& clave,
                  const std::string& valor) {
     if (Recortar(seccion).empty() || Recortar(clave).empty()) return false;

@@ -20,6 +20,10 @@ std::string LeerIni(const std::string& fichero, const std::string& seccion,
 // we may not read is no settings or language file, and counts as missing.
 bool IniLegible(const std::string& fichero);
 
+// The whole of a regular file of at most 64 MB, opened without blocking; false for anything else
+// (a FIFO, a folder, a device), which the caller takes as a missing file.
+bool LeerFicheroRegular(const std::string& ruta, std::string& bytes);
+
 // False when the file could not be written; the old file then stands as it was.
 bool EscribirIni(const std::string& fichero, const std::string& seccion, const std::string& clave,
                  const std::string& valor);

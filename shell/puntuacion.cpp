@@ -2,6 +2,7 @@
 
 #include "language/idioma.h"
 #include "platform/escritura.h"
+#include "platform/ini_file.h"
 #include "platform/programa.h"
 #include "platform/ruta.h"
 #include "platform/texto.h"
@@ -11,7 +12,6 @@
 #include "shell/servicios.h"
 
 #include <QLabel>
-#include <fstream>
 
 namespace qa {
 
@@ -40,10 +40,11 @@ std::string FicheroPuntuacion() {
 
 void LeerPuntuacion() {
     const std::string fichero = FicheroPuntuacion();
-    if (ExisteFichero(fichero)) {
-        unsigned char b[20] = {};
-        std::ifstream in(RutaReal(fichero), std::ios::binary);
-        in.read(reinterpret_cast<char*>(b), sizeof b); // a short file reads as zeros
+    std::string bytes;
+    // A FIFO or a folder in its place would block or fail: it counts as no record at all.
+    if (ExisteFichero(fichero) && LeerFicheroRegular(RutaReal(fichero), bytes)) {
+        bytes.resize(20); // a short file reads as zeros
+        const auto* b = reinterpret_cast<const unsigned char*>(bytes.data());
         for (int i = 0; i < 5; ++i) {
             std::uint32_t v = b[i * 4] | (b[i * 4 + 1] << 8) | (b[i * 4 + 2] << 16) |
                               (static_cast<std::uint32_t>(b[i * 4 + 3]) << 24);

@@ -308,6 +308,30 @@ TEST(Programa, DamagedRankingStartsAgainAt1200) {
     Forms().mdi->close();
 }
 
+TEST(Programa, ARankingThatIsAFifoOrAFolderCountsAsNoRecord) {
+    ::alarm(60); // reading the FIFO would hang the start
+    // What the start shows with no record at all, beside a FIFO and a folder in its place.
+    auto arrancar = [](int como) {
+        Carpeta c;
+        Cajas cajas;
+        if (como == 1) {
+            EXPECT_EQ(::mkfifo(c.Ruta("Puntuacion.dat").c_str(), 0600), 0);
+        }
+        if (como == 2) fs::create_directory(c.Ruta("Puntuacion.dat"));
+        QStringList visto;
+        EXPECT_TRUE(Main({"quintarena"})) << como;
+        for (int i = 0; i < 5; ++i) visto << Forms().ranking->Label(i)->text();
+        for (const auto& caja : cajas.vistas) visto << QString::fromStdString(caja.texto);
+        Forms().mdi->close();
+        return visto;
+    };
+    const QStringList sinRegistro = arrancar(0);
+    EXPECT_TRUE(sinRegistro[4].endsWith(": 1200")) << sinRegistro[4].toStdString();
+    EXPECT_EQ(arrancar(1), sinRegistro);
+    EXPECT_EQ(arrancar(2), sinRegistro);
+    ::alarm(0);
+}
+
 TEST(Programa, ChangingTheLanguageInTheOptions) {
     Carpeta c;
     Cajas cajas;
