@@ -1,14 +1,17 @@
 #pragma once
 // The move list: one of the texts List(1) to List(5) shown at a time, copied to the
-// clipboard, with the context menu of the Jugadas window.
-#include <QPlainTextEdit>
+// clipboard, with the context menu of the Jugadas window. The rows are read from the
+// game's own lists as they come into view, so a huge game costs the view next to nothing.
+#include <QListView>
 
 class QAction;
 class QMenu;
 
 namespace qa {
 
-class ListaJugadas : public QPlainTextEdit {
+class ModeloJugadas;
+
+class ListaJugadas : public QListView {
     Q_OBJECT
 public:
     explicit ListaJugadas(QWidget* parent = nullptr);
@@ -20,8 +23,10 @@ public:
     int Indice() const { return indice_; }
     // Reads the text again after a move, a take-back or a new game.
     void Actualizar();
-    // mnuCopiarJugadas: the selection, or the whole game when nothing is selected.
+    // mnuCopiarJugadas: the selected lines, or the whole game when nothing is selected.
     void CopiarJugadas();
+    // The lines shown, joined by LF.
+    QString Texto() const;
     QMenu* MenuJugadas() const { return menu_; }
 
 signals:
@@ -37,6 +42,7 @@ protected:
 private:
     // The menu's texts from the language file, again at each change of language.
     void AplicarIdioma();
+    ModeloJugadas* modelo_;
     QMenu* menu_;
     QMenu* mnuNotacion_;
     QAction *copiar_, *guardarComo_;

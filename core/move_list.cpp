@@ -24,9 +24,11 @@ TextoJugadas& TextoJugadas::operator+=(std::string_view texto) {
             // Only the line end's CR is ever kept alone, as a literal.
             codigo_.resize(codigo_.size() - 2);
             codigo_ += kFinLinea;
+            LineaTerminada();
         } else if (c == '\r' || c == '\n' || c == kBlancos || c == kLiteral) {
             codigo_ += kLiteral;
             codigo_ += c;
+            if (c == '\n') LineaTerminada();
         } else {
             codigo_ += c;
             if (c != ' ' || codigo_.size() < kRacha) continue;
@@ -64,9 +66,11 @@ void TextoJugadas::pop_back() {
     const char b = codigo_.back();
     if (UltimoLiteral(codigo_)) {
         codigo_.resize(codigo_.size() - 2);
+        if (b == '\n') LineaQuitada();
     } else if (b == kFinLinea) {
         codigo_.back() = kLiteral;
         codigo_ += '\r';
+        LineaQuitada();
     } else if (b == kBlancos) {
         codigo_.pop_back();
         codigo_.append(kRacha - 1, ' ');
@@ -77,7 +81,48 @@ void TextoJugadas::pop_back() {
 
 void TextoJugadas::clear() {
     std::string().swap(codigo_);
+    std::vector<uint64_t>().swap(marcas_);
     largo_ = 0;
+    finales_ = 0;
+}
+
+void TextoJugadas::LineaTerminada() {
+    if (++finales_ % kPaso == 0) marcas_.push_back(codigo_.size());
+}
+
+void TextoJugadas::LineaQuitada() {
+    --finales_;
+    if (marcas_.size() > finales_ / kPaso) marcas_.pop_back();
+}
+
+size_t TextoJugadas::Lineas() const {
+    return finales_ + (largo_ > 0 && back() != '\n' ? 1 : 0);
+}
+
+std::string TextoJugadas::Linea(size_t i) const {
+    std::string linea;
+    if (i >= Lineas()) return linea;
+    size_t pos = i < kPaso ? 0 : static_cast<size_t>(marcas_[i / kPaso - 1]);
+    for (size_t saltar = i % kPaso; saltar > 0; ++pos) {
+        if (codigo_[pos] == kLiteral)
+            saltar -= codigo_[++pos] == '\n' ? 1 : 0;
+        else if (codigo_[pos] == kFinLinea)
+            --saltar;
+    }
+    for (; pos < codigo_.size(); ++pos) {
+        const char b = codigo_[pos];
+        if (b == kFinLinea) break;
+        if (b == kLiteral && pos + 1 < codigo_.size()) {
+            const char c = codigo_[++pos];
+            if (c == '\n') break;
+            linea += c;
+        } else if (b == kBlancos) {
+            linea.append(kRacha, ' ');
+        } else {
+            linea += b;
+        }
+    }
+    return linea;
 }
 
 std::string TextoJugadas::str() const {

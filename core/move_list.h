@@ -5,6 +5,7 @@
 #include "core/lista_textos.h"
 #include "platform/texto.h"
 
+#include <cstdint>
 #include <iosfwd>
 #include <string>
 #include <string_view>
@@ -27,14 +28,24 @@ public:
     void clear();
     std::string str() const;
     operator std::string() const { return str(); }
+    // The text as lines split at LF: a last line without its end counts too.
+    // Line i comes back without its CR LF, found from a note every kPaso lines.
+    size_t Lineas() const;
+    std::string Linea(size_t i) const;
 
     friend bool operator==(const TextoJugadas& a, std::string_view b) { return a.str() == b; }
     friend std::string operator+(std::string a, const TextoJugadas& b) { return a += b.str(); }
     friend std::ostream& operator<<(std::ostream& o, const TextoJugadas& t);
 
 private:
+    static constexpr size_t kPaso = 32;
+    void LineaTerminada();
+    void LineaQuitada();
+
     std::string codigo_;
     size_t largo_ = 0;
+    size_t finales_ = 0;           // LFs in the text
+    std::vector<uint64_t> marcas_; // where line kPaso * (k + 1) starts in codigo_
 };
 
 // List[1] coordinates, [2] Spanish, [3] English, [4] the game as squares,

@@ -183,14 +183,14 @@ TEST_F(TableroTest, TwoPeoplePlayToMateAndTakeBack) {
     ASSERT_FALSE(registro.mensajes.empty());
     EXPECT_EQ(registro.mensajes.back().texto, "2");
     EXPECT_EQ(registro.mensajes.back().icono, 64);
-    EXPECT_NE(lista->toPlainText().indexOf("Dh4++"), -1) << lista->toPlainText().toStdString();
+    EXPECT_NE(lista->Texto().indexOf("Dh4++"), -1) << lista->Texto().toStdString();
 
     RetrocesoFuncion();
     EXPECT_EQ(Tablero[4][8], DamaN);
     EXPECT_EQ(EnPantalla(4, 8), Esperada(4, 8, DamaN));
     EXPECT_EQ(EnPantalla(8, 4), Esperada(8, 4, 0));
     EXPECT_FALSE(pic()->MarcosMostrados());
-    EXPECT_EQ(lista->toPlainText().indexOf("Dh4"), -1);
+    EXPECT_EQ(lista->Texto().indexOf("Dh4"), -1);
 }
 
 TEST_F(TableroTest, JunkCodesAreNeitherDrawnNorPickedUp) {

@@ -64,7 +64,7 @@ TEST_F(CoronacionTest, ChosenKnightGoesOnTheBoardAndIntoTheList) {
     Coronar(Centro(1, 7), Centro(1, 8), 3);
     EXPECT_EQ(Tablero[1][8], CaballoB);
     EXPECT_EQ(EnPantalla(1, 8), Esperada(1, 8, CaballoB));
-    EXPECT_NE(lista->toPlainText().indexOf("a8=C"), -1) << lista->toPlainText().toStdString();
+    EXPECT_NE(lista->Texto().indexOf("a8=C"), -1) << lista->Texto().toStdString();
 }
 
 TEST_F(CoronacionTest, BlackCaptureOnAReversedBoardLandsOnTheTrueSquare) {

@@ -48,6 +48,26 @@ TEST(ListaTextos, ReadsLikeAVectorOfStringsThroughGrowthAndTakeBacks) {
     EXPECT_TRUE(l.empty());
 }
 
+// The lines a text shows: split at LF, a CR before it dropped, a last unended line kept.
+std::vector<std::string> Partir(const std::string& s) {
+    std::vector<std::string> lineas;
+    size_t inicio = 0;
+    for (size_t fin; (fin = s.find('\n', inicio)) != std::string::npos; inicio = fin + 1) {
+        lineas.push_back(s.substr(inicio, fin - inicio));
+        if (!lineas.back().empty() && lineas.back().back() == '\r') lineas.back().pop_back();
+    }
+    if (inicio < s.size()) lineas.push_back(s.substr(inicio));
+    return lineas;
+}
+
+void MismasLineas(const Jugadas::TextoJugadas& t, const std::string& s, int vuelta) {
+    const std::vector<std::string> lineas = Partir(s);
+    ASSERT_EQ(t.Lineas(), lineas.size()) << vuelta;
+    for (size_t k = 0; k < lineas.size(); ++k)
+        ASSERT_EQ(t.Linea(k), lineas[k]) << vuelta << " " << k;
+    EXPECT_EQ(t.Linea(lineas.size()), "");
+}
+
 TEST(TextoJugadas, ReadsLikeTheStringItStandsFor) {
     Jugadas::TextoJugadas t;
     std::string s;
@@ -75,7 +95,9 @@ TEST(TextoJugadas, ReadsLikeTheStringItStandsFor) {
             }
         }
         ASSERT_EQ(t.size(), s.size()) << i;
+        if (i % 50 == 0) MismasLineas(t, s, i);
     }
+    MismasLineas(t, s, -1);
     EXPECT_EQ(t.str(), s);
     EXPECT_EQ(t, s);
     EXPECT_EQ(std::string("x") + t, "x" + s);
@@ -83,8 +105,10 @@ TEST(TextoJugadas, ReadsLikeTheStringItStandsFor) {
         ASSERT_EQ(t.back(), s.back());
         t.pop_back();
         s.pop_back();
+        if (s.size() % 97 == 0) MismasLineas(t, s, static_cast<int>(s.size()));
     }
     EXPECT_TRUE(t.empty());
+    EXPECT_EQ(t.Lineas(), 0u);
     EXPECT_EQ(t.str(), "");
 }
 

@@ -88,7 +88,7 @@ protected:
                                    : Forms().mdi->grab();
         imagen.save(QString::fromUtf8(d) + "/" + nombre + ".png");
     }
-    std::string Lista() const { return Forms().jugadas->Lista()->toPlainText().toStdString(); }
+    std::string Lista() const { return Forms().jugadas->Lista()->Texto().toStdString(); }
     // Every file dialog answers with this file of the scratch folder.
     void Responder(const std::string& nombre) {
         const std::string ruta = carpeta.Ruta(nombre).string(), dir = carpeta.Ruta().string();
