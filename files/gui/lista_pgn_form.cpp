@@ -16,7 +16,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
-#include <QListWidget>
 #include <QPushButton>
 #include <QStyle>
 #include <QTabWidget>
@@ -28,7 +27,8 @@ namespace qa {
 
 QVariant ModeloLista::data(const QModelIndex& i, int rol) const {
     if (rol != Qt::DisplayRole || !i.isValid() || i.row() >= rowCount()) return {};
-    const std::string& t = filas_[static_cast<size_t>(i.row())];
+    const auto fila = static_cast<size_t>(i.row());
+    const std::string t = vector_ ? (*vector_)[fila] : (*textos_)[fila];
     const QString s = QString::fromUtf8(t.data(), static_cast<qsizetype>(t.size()));
     // Old collections are Latin-1: a text that is no UTF-8 is read as that.
     return s.contains(QChar::ReplacementCharacter)
@@ -117,8 +117,11 @@ ListaPgnF::ListaPgnF(QWidget* padre) : QWidget(padre, Qt::Window) {
     botones->addWidget(guardar_);
     botones->addWidget(cancelar_);
 
-    movimientos_ = new QListWidget;
+    movimientos_ = new QListView;
     movimientos_->setObjectName("PgnMovimientos");
+    movimientos_->setUniformItemSizes(true);
+    modeloMovimientos_ = new ModeloLista(ListaPgn::PgnMovimientos, this);
+    movimientos_->setModel(modeloMovimientos_);
     movimientos_->installEventFilter(this);
     movimientos_->setFont(QFont("Monospace"));
 
@@ -149,8 +152,8 @@ ListaPgnF::ListaPgnF(QWidget* padre) : QWidget(padre, Qt::Window) {
         Mostrar();
         emit TableroCambiado();
     });
-    connect(movimientos_, &QListWidget::itemClicked, this, [this](QListWidgetItem* it) {
-        IrAFilaPgn(movimientos_->row(it));
+    connect(movimientos_, &QListView::clicked, this, [this](const QModelIndex& i) {
+        IrAFilaPgn(i.row());
         Mostrar();
         emit TableroCambiado();
     });
@@ -278,15 +281,17 @@ void ListaPgnF::Mostrar() {
         for (int i = 0; i < 6; ++i) text1_[i]->setText(Texto(ListaPgn::Text1[i]));
         combo1_->setItemText(0, ListaPgn::Combo1.empty() ? "*" : Texto(ListaPgn::Combo1));
     }
-    if (movimientos_->count() != static_cast<int>(ListaPgn::PgnMovimientos.size()) ||
-        (movimientos_->count() > 0 &&
-         movimientos_->item(0)->text() != Texto(ListaPgn::PgnMovimientos[0]))) {
-        movimientos_->clear();
-        for (const auto& f : ListaPgn::PgnMovimientos) movimientos_->addItem(Texto(f));
+    // Another game's moves: the view is told once, not at every step through them.
+    const std::string primera =
+        ListaPgn::PgnMovimientos.empty() ? std::string() : ListaPgn::PgnMovimientos.front();
+    if (movimientosMostrados_ != ListaPgn::PgnMovimientos.size() || primeraMostrada_ != primera) {
+        modeloMovimientos_->Refrescar();
+        movimientosMostrados_ = ListaPgn::PgnMovimientos.size();
+        primeraMostrada_ = primera;
     }
     if (ListaPgn::PgnMovimientosIndice >= 0 &&
-        ListaPgn::PgnMovimientosIndice < movimientos_->count())
-        movimientos_->setCurrentRow(ListaPgn::PgnMovimientosIndice);
+        ListaPgn::PgnMovimientosIndice < modeloMovimientos_->rowCount())
+        movimientos_->setCurrentIndex(modeloMovimientos_->index(ListaPgn::PgnMovimientosIndice));
     for (int i = 1; i <= 4; ++i) {
         command1_[i]->setEnabled(BotonesNavegacion);
         command1_[i]->setToolTip(TextoForma("Tips", kTips[i], kTipsPorDefecto[i]));

@@ -6,11 +6,12 @@
 
 #include <QTimer>
 
+#include <string>
+
 class QComboBox;
 class QLabel;
 class QLineEdit;
 class QListView;
-class QListWidget;
 class QPushButton;
 class QTabWidget;
 
@@ -57,7 +58,10 @@ private:
     QComboBox *combo1_, *combo2_;
     QPushButton* command1_[6] = {};
     QPushButton *guardar_, *cancelar_;
-    QListWidget* movimientos_;
+    QListView* movimientos_;
+    ModeloLista* modeloMovimientos_;
+    size_t movimientosMostrados_ = 0;
+    std::string primeraMostrada_;
     QTabWidget* pestanas_;
     TableroMini* mini_;
     QTimer timer_, autoPlay_;

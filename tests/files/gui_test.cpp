@@ -14,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
-#include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -65,9 +64,10 @@ TEST_F(Formularios, BrowserListsStepsAndChooses) {
     f.Abrir(QString::fromStdString(Escribir("dos.pgn", kDos)));
     ASSERT_TRUE(QTest::qWaitFor([&] { return TotalPartidas == 2; })) << "TotalPartidas";
     auto* lista = f.findChild<QListView*>("Eventos");
-    auto* filas = f.findChild<QListWidget*>("PgnMovimientos");
+    auto* filas = f.findChild<QListView*>("PgnMovimientos");
     ASSERT_TRUE(lista && filas);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return filas->count() == 3; })) << "filas->count()";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return filas->model()->rowCount() == 3; }))
+        << "filas->model()->rowCount()";
     EXPECT_EQ(lista->model()->rowCount(), 2);
     EXPECT_FALSE(cambios.isEmpty());
 
@@ -80,7 +80,8 @@ TEST_F(Formularios, BrowserListsStepsAndChooses) {
     ClicFila(lista, 1);
     ASSERT_TRUE(QTest::qWaitFor([&] { return ListaPgn::Text1[0] == std::string("Dos"); }))
         << "ListaPgn::Text1[0]";
-    ASSERT_TRUE(QTest::qWaitFor([&] { return filas->count() == 2; })) << "filas->count()";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return filas->model()->rowCount() == 2; }))
+        << "filas->model()->rowCount()";
     EXPECT_EQ(Tablero[4][5], PeonN);
 
     QSignalSpy cerrado(&f, &qa::ListaPgnF::Cerrado);
@@ -118,7 +119,7 @@ TEST_F(Formularios, KeysInTheGameListChooseTheGameAsTheMouseDoes) {
     qa::ListaPgnF f;
     f.Abrir(QString::fromStdString(Escribir("tres.pgn", kTres)));
     auto* lista = f.findChild<QListView*>("Eventos");
-    auto* filas = f.findChild<QListWidget*>("PgnMovimientos");
+    auto* filas = f.findChild<QListView*>("PgnMovimientos");
     ASSERT_TRUE(lista && filas);
     ASSERT_TRUE(Llega([&] { return ListaPgn::Text1[0] == std::string("Uno"); }));
     lista->setFocus();
@@ -135,7 +136,7 @@ TEST_F(Formularios, KeysInTheGameListChooseTheGameAsTheMouseDoes) {
         EXPECT_TRUE(Rotulos(f).contains(posicion)) << evento;
     }
     // The last game chosen is the one on the board and in the move list.
-    ASSERT_TRUE(Llega([&] { return filas->count() == 2; }));
+    ASSERT_TRUE(Llega([&] { return filas->model()->rowCount() == 2; }));
     EXPECT_EQ(Tablero[5][4], PeonB);
     EXPECT_EQ(Tablero[5][5], PeonN);
 }
