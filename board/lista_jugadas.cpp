@@ -118,7 +118,16 @@ void ListaJugadas::PonerNotacion(int check) {
 void ListaJugadas::Actualizar() {
     const int antes = modelo_->rowCount();
     modelo_->Releer();
-    if (modelo_->rowCount() != antes) scrollToBottom();
+    if (modelo_->rowCount() == antes || desplazar_) return;
+    // Scrolling lays out every row: once when the moves stop coming, not at each of them.
+    desplazar_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            desplazar_ = false;
+            scrollToBottom();
+        },
+        Qt::QueuedConnection);
 }
 
 QString ListaJugadas::Texto() const {

@@ -49,6 +49,7 @@ private:
     QAction* notaciones_[5] = {};
     int check_ = 1;
     int indice_ = 2;
+    bool desplazar_ = false;
 };
 
 } // namespace qa
