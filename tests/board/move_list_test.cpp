@@ -75,8 +75,10 @@ TEST_F(TableroTest, TheListFollowsMovesAndTakeBacks) {
     EXPECT_EQ(lista->model()->index(158, 0).data().toString(), "80. Cg1");
     EXPECT_EQ(lista->model()->index(159, 0).data().toString(), QString(18, ' ') + "Cg8");
     // The end of the game is in view, as in a text box scrolled to its end.
-    EXPECT_TRUE(
-        lista->viewport()->rect().intersects(lista->visualRect(lista->model()->index(159, 0))));
+    EXPECT_TRUE(QTest::qWaitFor([&] {
+        return lista->viewport()->rect().intersects(
+            lista->visualRect(lista->model()->index(159, 0)));
+    }));
     RetrocesoFuncion();
     RetrocesoFuncion();
     ASSERT_EQ(lista->model()->rowCount(), 158);
