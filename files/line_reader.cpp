@@ -1,5 +1,6 @@
 #include "files/line_reader.h"
 
+#include "platform/lectura.h"
 #include "platform/texto.h"
 
 #include <algorithm>
@@ -17,15 +18,9 @@ constexpr size_t kCola = 4096;
 
 LectorLineas::LectorLineas(const std::string& ruta, uint64_t desde, uint64_t hasta)
     : hasta_(hasta), posicion_(desde) {
-    // Not blocking: opening a FIFO must not wait for a writer before it is refused.
-    fd_ = ::open(ruta.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-    if (fd_ < 0) return;
     struct stat st {};
-    if (::fstat(fd_, &st) != 0 || !S_ISREG(st.st_mode)) {
-        ::close(fd_);
-        fd_ = -1;
-        return;
-    }
+    fd_ = qa::AbrirLecturaRegular(ruta, st);
+    if (fd_ < 0) return;
     base_ = desde;
     const uint64_t tamano = static_cast<uint64_t>(std::max<off_t>(st.st_size, 0));
     const uint64_t tramo = std::min(hasta, tamano) > desde ? std::min(hasta, tamano) - desde : 0;

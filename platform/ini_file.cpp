@@ -1,6 +1,7 @@
 #include "platform/ini_file.h"
 
 #include "platform/escritura.h"
+#include "platform/lectura.h"
 #include "platform/ruta.h"
 #include "platform/texto.h"
 
@@ -47,14 +48,13 @@ struct Fichero {
     std::vector<Linea> lineas;
 };
 
-// Only a regular file is read: a FIFO would block the start, a directory or a device has no
-// text of ours. A file that large is no settings file either.
+// A file that large is no settings file.
 constexpr off_t kTamanoMaximo = 64 << 20;
 
 bool LeerBytes(const std::string& ruta, std::string& bytes, struct stat& st) {
-    const int fd = ::open(ruta.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    const int fd = AbrirLecturaRegular(ruta, st);
     if (fd < 0) return false;
-    bool bien = ::fstat(fd, &st) == 0 && S_ISREG(st.st_mode) && st.st_size <= kTamanoMaximo;
+    bool bien = st.st_size <= kTamanoMaximo;
     if (bien) {
         bytes.resize(static_cast<std::size_t>(st.st_size));
         std::size_t hecho = 0;
