@@ -35,10 +35,11 @@ using namespace Variables;
 // Messages and sounds of the program, as far as a demo needs them; the rest is recorded.
 class EntornoDemo : public EntornoRegistro {
 public:
-    void MostrarMensaje(const std::string& titulo, const std::string& texto, int, int,
-                        int) override {
+    int MostrarMensaje(const std::string& titulo, const std::string& texto, int, int,
+                       int) override {
         QMessageBox::information(QApplication::activeWindow(), QString::fromStdString(titulo),
                                  QString::fromStdString(qa::TextoMensaje(texto)));
+        return 1;
     }
     void Sonar(int) override { QApplication::beep(); }
 };

@@ -32,8 +32,11 @@ public:
 class EntornoDialogos {
 public:
     virtual ~EntornoDialogos() = default;
-    virtual void MostrarMensaje(const std::string& titulo, const std::string& texto, int icono,
-                                int botones, int extra) = 0;
+    // The answer is the button pressed (qa::kRespuestaSi, qa::kRespuestaNo, 1 for OK).
+    virtual int MostrarMensaje(const std::string& titulo, const std::string& texto, int icono,
+                               int botones, int extra) = 0;
+    // The input box: the text typed, empty when it was cancelled.
+    virtual std::string PedirTexto(const std::string& pregunta, const std::string& titulo) = 0;
     virtual void Sonar(int n) = 0;
     // The text of message n, for the boxes that add to it.
     virtual std::string Mensaje(int n) = 0;

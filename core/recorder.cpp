@@ -14,9 +14,28 @@ void EntornoRegistro::MostrarCoronacion() {
     Coronacion::Aceptar();
 }
 
-void EntornoRegistro::MostrarMensaje(const std::string& titulo, const std::string& texto, int icono,
-                                     int, int) {
+int EntornoRegistro::MostrarMensaje(const std::string& titulo, const std::string& texto, int icono,
+                                    int botones, int extra) {
     mensajes.push_back({titulo, texto, icono});
+    return RespuestaRegistrada(botones, extra, respuestas);
+}
+
+std::string EntornoRegistro::PedirTexto(const std::string& pregunta, const std::string&) {
+    llamadas.push_back("PedirTexto " + pregunta);
+    if (textos.empty()) return {};
+    std::string t = textos.front();
+    textos.erase(textos.begin());
+    return t;
+}
+
+int RespuestaRegistrada(int botones, int extra, std::vector<int>& respuestas) {
+    if (botones != qa::kBotonesSiNo) return 1;
+    if (!respuestas.empty()) {
+        int r = respuestas.front();
+        respuestas.erase(respuestas.begin());
+        return r;
+    }
+    return extra == qa::kSegundoPorDefecto ? qa::kRespuestaNo : qa::kRespuestaSi;
 }
 
 void EntornoRegistro::CerrarListaPgn() {

@@ -9,6 +9,10 @@
 #include <string>
 #include <vector>
 
+// The button a box answers with: an OK box 1; a yes/no box the first answer waiting (taken off
+// the list), or its default button when none waits.
+int RespuestaRegistrada(int botones, int extra, std::vector<int>& respuestas);
+
 class EntornoRegistro : public EntornoDibujo,
                         public EntornoDialogos,
                         public EntornoMotor,
@@ -50,8 +54,13 @@ public:
     void AvisoCargando(const std::string& texto) override;
     void MostrarCoronacion() override;
 
-    void MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones,
-                        int extra) override;
+    // Answers waiting for the next question and input boxes, in order; with none waiting a
+    // question gets its default button and an input box is cancelled.
+    std::vector<int> respuestas;
+    std::vector<std::string> textos;
+    int MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones,
+                       int extra) override;
+    std::string PedirTexto(const std::string& pregunta, const std::string& titulo) override;
     void Sonar(int n) override { sonidos.push_back(n); }
     std::string Mensaje(int n) override { return std::to_string(n); }
     std::string TextoReloj(int lado) override { return relojes_[lado == 2]; }

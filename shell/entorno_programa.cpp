@@ -16,9 +16,12 @@ namespace {
 // Boxes, sounds, the texts of the language and the clock panel.
 class DialogosPrograma final : public EntornoDialogos {
 public:
-    void MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones,
-                        int extra) override {
-        qa::MostrarMensaje(titulo, texto, icono, botones, extra);
+    int MostrarMensaje(const std::string& titulo, const std::string& texto, int icono, int botones,
+                       int extra) override {
+        return qa::MostrarMensaje(titulo, texto, icono, botones, extra);
+    }
+    std::string PedirTexto(const std::string& pregunta, const std::string& titulo) override {
+        return qa::PedirTexto(pregunta, titulo);
     }
     void Sonar(int n) override { qa::Sonar(n); }
     std::string Mensaje(int n) override {

@@ -16,6 +16,8 @@
 #include <QBuffer>
 #include <QCursor>
 #include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPixmap>
@@ -93,6 +95,25 @@ int MostrarMensajeNumero(int numero, int icono, int botones, int extra) {
 
 void FijarPresentadorMensajes(PresentadorMensajes presentador) {
     Presentador() = std::move(presentador);
+}
+
+namespace {
+PresentadorTextos& PresentadorDeTextos() {
+    static PresentadorTextos p;
+    return p;
+}
+} // namespace
+
+std::string PedirTexto(const std::string& pregunta, const std::string& titulo) {
+    if (PresentadorDeTextos()) return PresentadorDeTextos()(pregunta);
+    bool aceptado = false;
+    QString t = QInputDialog::getText(Forms().mdi, Q(titulo), Q(pregunta), QLineEdit::Normal,
+                                      QString(), &aceptado);
+    return aceptado ? t.toStdString() : std::string();
+}
+
+void FijarPresentadorTextos(PresentadorTextos presentador) {
+    PresentadorDeTextos() = std::move(presentador);
 }
 
 void Sonar(int n) {

@@ -34,6 +34,12 @@ int MostrarMensajeNumero(int numero, int icono, int botones = 0, int extra = 0);
 using PresentadorMensajes = std::function<int(const CMensaje&)>;
 void FijarPresentadorMensajes(PresentadorMensajes presentador);
 
+// The input box: the text typed, empty when cancelled.
+std::string PedirTexto(const std::string& pregunta, const std::string& titulo);
+// Tests answer the input boxes themselves; nothing set means a real box.
+using PresentadorTextos = std::function<std::string(const std::string& pregunta)>;
+void FijarPresentadorTextos(PresentadorTextos presentador);
+
 // 1 "Conexion.wav", 2 "Desconectado.wav", 3 "Mueve.wav", 4 "Gana.wav", 5 "Tiempo.wav".
 void Sonar(int n);
 

@@ -84,10 +84,11 @@ class SesionCli::Entorno : public EntornoRegistro {
 public:
     Entorno(std::ostream& errores, Traductor& traductor)
         : errores_(errores), traductor_(traductor) {}
-    void MostrarMensaje(const std::string& titulo, const std::string& texto, int, int,
-                        int) override {
+    int MostrarMensaje(const std::string& titulo, const std::string& texto, int, int botones,
+                       int extra) override {
         errores_ << "message " << titulo << ": " << (traductor_ ? traductor_(texto) : texto)
                  << std::endl;
+        return RespuestaRegistrada(botones, extra, respuestas);
     }
     void Sonar(int) override {}
     void SumaDePartidas(int) override {}
