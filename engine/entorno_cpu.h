@@ -43,6 +43,8 @@ public:
 
     // The board-reversed menu entry set to `marcada` and its command run.
     virtual void MarcarInvertirTablero(bool marcada) = 0;
+    // The next move draws its last-move frames again (after a take-back).
+    virtual void QuitarMarcoActivo() = 0;
     // A clean board for a game at this machine: the start position, no marks, clocks at zero,
     // no game kind, no colour.
     virtual void Player2() = 0;
