@@ -2,7 +2,9 @@
 // One console engine as the play logic sees it: a program started with its standard streams
 // redirected. The holder makes one per engine (platform's process bridge in the program and the
 // console tool, a scripted stand-in in tests) and hands its output back as whole lines through
-// Motores::DatoRecibido, its failures through Motores::ErrorRecibido.
+// Motores::DatoRecibido, its failures through Motores::ErrorRecibido. One console's reports do
+// not nest: the next line is reported after the report of the one before has returned, even
+// when the logic yields to pending events inside it.
 
 #include <string>
 
