@@ -1,0 +1,6 @@
+#include "fuzz/engine_driver.h"
+#include "fuzz/replay.h"
+
+int main(int argc, char** argv) {
+    return ReproducirCorpus(argc, argv, EjecutarEntradaMotor);
+}
