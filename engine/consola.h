@@ -4,7 +4,9 @@
 // console tool, a scripted stand-in in tests) and hands its output back as whole lines through
 // Motores::DatoRecibido, its failures through Motores::ErrorRecibido. One console's reports do
 // not nest: the next line is reported after the report of the one before has returned, even
-// when the logic yields to pending events inside it.
+// when the logic yields to pending events inside it. A program that ends on its own, not by
+// Terminar, is a failure to report: the game then ends with a message whichever side the
+// engine plays, with or without clocks.
 
 #include <string>
 
