@@ -231,6 +231,12 @@ struct Motores::Impl {
         t.Intervalo(static_cast<int>(1000 - ((ms % 1000) + 1000) % 1000) + 1);
     }
 
+    // A clock switched on looks at the wall clock at once, whatever its last wait was.
+    static void EncenderReloj(Temporizador& t) {
+        if (!t.Habilitado()) t.Intervalo(1);
+        t.Habilitar(true);
+    }
+
     void TickReloj(int lado) {
         const bool blancas = lado == 1;
         Temporizador& t = blancas ? timer4 : timer5;
@@ -353,7 +359,7 @@ struct Motores::Impl {
         const int o = 3 - m;
         if (ConReloj()) {
             (m == 1 ? timer4 : timer5).Habilitar(false);
-            (m == 1 ? timer5 : timer4).Habilitar(true);
+            EncenderReloj(m == 1 ? timer5 : timer4);
         }
         e.RespuestaMotor[m] = l.clave;
         Turno = static_cast<int16_t>(m);
@@ -583,7 +589,7 @@ struct Motores::Impl {
                           (m == 1 ? std::string(kCrLf) + "go" : ""));
         }
         if (reloj) {
-            timer4.Habilitar(true);
+            EncenderReloj(timer4);
             timer5.Habilitar(false);
         }
         // The person's side comes to stand at the bottom.
@@ -664,7 +670,7 @@ void Motores::GenerarMovimiento() {
         i.RelojesANivel();
     if (!MotorBlancas) {
         if (reloj && MotorNegras) {
-            i.timer5.Habilitar(true);
+            Impl::EncenderReloj(i.timer5);
             i.timer4.Habilitar(false);
             i.TickReloj(2);
         }
@@ -672,7 +678,7 @@ void Motores::GenerarMovimiento() {
         i.Enviar(2, i.Relojes(2) + kCrLf + e_.MovimientoCPU);
     } else {
         if (reloj) {
-            i.timer4.Habilitar(true);
+            Impl::EncenderReloj(i.timer4);
             i.timer5.Habilitar(false);
             i.TickReloj(1);
         }
