@@ -354,6 +354,11 @@ TEST_F(Motores, NoEngineIsTheLocalGameForTwo) {
     EXPECT_EQ(cpu.consola[1], nullptr);
     ASSERT_EQ(Mover("e2e4").tipo, Respuesta::Legal);
     EXPECT_EQ(Turno, 2);
+    // Between two people one move is taken back.
+    motores->ToolboxComand("5");
+    EXPECT_TRUE(Jugadas::List1.empty());
+    EXPECT_EQ(En("e2"), PeonB);
+    EXPECT_EQ(Turno, 1);
     // A restart during an engine game asks first; no keeps the game.
     Empezar(0, 2);
     ASSERT_EQ(Mover("d2d4").tipo, Respuesta::Legal);
@@ -383,7 +388,7 @@ TEST_F(Motores, ConsoleFailures) {
         EXPECT_EQ(cpu.consola[lado], nullptr);
     }
 
-    // One raised by the stop itself is no failure.
+    // One raised by the closing itself is no failure.
     registro.mensajes.clear();
     Empezar(0, 2);
     cpu.guion[2] = Guion("! error 6 while stopping");
@@ -431,6 +436,8 @@ TEST_F(Motores, TimeControlClocks) {
     Dice(2, "move e7e5");
     EXPECT_TRUE(t4.Habilitado());
     EXPECT_FALSE(t5.Habilitado());
+    // Switched on again, it does not wait out the last second's rest.
+    EXPECT_EQ(t4.Intervalo(), 1);
 
     // The person's flag falls: message 29, and the clocks keep their values.
     MinutosBlancas = 0;
