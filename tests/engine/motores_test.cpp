@@ -104,6 +104,21 @@ TEST_F(Motores, EngineAgainstEnginePassesMovesWithTheClocksBehind) {
     EXPECT_TRUE(registro.mensajes.empty());
 }
 
+TEST_F(Motores, TwoEnginesPlayAWholeGameToMate) {
+    cpu.guion[1] = LeerGuion("loco_blanco.txt");
+    cpu.guion[2] = LeerGuion("loco_negro.txt");
+    Empezar(1, 2);
+    EXPECT_EQ(En("h4"), DamaN);
+    EXPECT_EQ(Jugadas::List1.size(), 4u);
+    EXPECT_TRUE(C(1).GuionCumplido());
+    EXPECT_TRUE(C(2).GuionCumplido());
+    // The board's mate speaks; the engine's result after it ends the game silently.
+    EXPECT_EQ(Textos(), (Vec{"2"}));
+    EXPECT_FALSE(MotorBlancas || MotorNegras);
+    EXPECT_TRUE(C(1).terminada && C(2).terminada);
+    EXPECT_EQ(Turno, 0);
+}
+
 TEST_F(Motores, CastlingByEngineReachesTheOtherAsCoordinatesThenInTheOtherSpelling) {
     Empezar(1, 2);
     Colocar("r3k2r/pppppppp/8/8/8/8/PPPPPPPP/R3K2R", 0);
