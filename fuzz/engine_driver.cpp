@@ -1,4 +1,5 @@
 #include "fuzz/engine_driver.h"
+#include "fuzz/lector_bytes.h"
 
 #include "core/game_state.h"
 #include "core/local_move.h"
@@ -20,30 +21,20 @@ using namespace Variables;
 
 namespace {
 
-class Lector {
-public:
-    Lector(const uint8_t* d, size_t n) : d_(d), n_(n) {}
-    bool Queda() const { return i_ < n_; }
-    uint8_t Byte() { return i_ < n_ ? d_[i_++] : 0; }
-    // A line: the bytes up to a newline, or a length-prefixed run of any bytes.
-    std::string Linea() {
-        std::string s;
-        if (Byte() & 1) {
-            for (int n = Byte(); n > 0 && Queda(); --n) s += static_cast<char>(Byte());
-            return s;
-        }
-        while (Queda()) {
-            const char c = static_cast<char>(Byte());
-            if (c == '\n') break;
-            s += c;
-        }
+// A line: the bytes up to a newline, or a length-prefixed run of any bytes.
+std::string Linea(Lector& l) {
+    std::string s;
+    if (l.Byte() & 1) {
+        for (int n = l.Byte(); n > 0 && l.Queda(); --n) s += static_cast<char>(l.Byte());
         return s;
     }
-
-private:
-    const uint8_t* d_;
-    size_t n_, i_ = 0;
-};
+    while (l.Queda()) {
+        const char c = static_cast<char>(l.Byte());
+        if (c == '\n') break;
+        s += c;
+    }
+    return s;
+}
 
 struct Consola final : qa::ConsolaMotor {
     bool corriendo = false;
@@ -188,7 +179,7 @@ void EjecutarEntradaMotor(const uint8_t* datos, size_t tam) {
         case 1:
         case 2: {
             // A line from an engine, now; the codec is read alone as well.
-            const std::string linea = l.Linea();
+            const std::string linea = Linea(l);
             qa::EstadoLinea e;
             e.motorBlancas = op & 16;
             e.enroquePendiente = op & 32;
@@ -199,13 +190,13 @@ void EjecutarEntradaMotor(const uint8_t* datos, size_t tam) {
             break;
         }
         case 3: // a line that comes while the logic yields
-            if (cpu.consola[m]) cpu.consola[m]->salida.push_back({false, l.Linea()});
+            if (cpu.consola[m]) cpu.consola[m]->salida.push_back({false, Linea(l)});
             break;
         case 4:
             if (cpu.consola[m])
-                cpu.consola[m]->salida.push_back({true, l.Linea()});
+                cpu.consola[m]->salida.push_back({true, Linea(l)});
             else
-                motores->ErrorRecibido(m, l.Linea());
+                motores->ErrorRecibido(m, Linea(l));
             break;
         case 5:
             t[1 + l.Byte() % 5].Vencer();

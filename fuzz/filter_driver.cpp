@@ -1,4 +1,5 @@
 #include "fuzz/filter_driver.h"
+#include "fuzz/lector_bytes.h"
 
 #include "core/game_state.h"
 #include "core/local_move.h"
@@ -12,17 +13,6 @@
 using namespace Variables;
 
 namespace {
-
-class Lector {
-public:
-    Lector(const uint8_t* d, size_t n) : d_(d), n_(n) {}
-    bool Queda() const { return i_ < n_; }
-    uint8_t Byte() { return i_ < n_ ? d_[i_++] : 0; }
-
-private:
-    const uint8_t* d_;
-    size_t n_, i_ = 0;
-};
 
 // Mostly real squares, sometimes anything at all.
 std::string Casilla(Lector& l) {
