@@ -147,6 +147,17 @@ TEST_F(Motores, CastlingByEngineReachesTheOtherAsCoordinatesThenInTheOtherSpelli
     EXPECT_EQ(Nuevos(1), (Vec{"O-O-O\r\ntime 0\r\notim 0"}));
 }
 
+TEST_F(Motores, CastlingWrittenInALongerLineIsNotSentAgain) {
+    Empezar(1, 2);
+    Colocar("r3k2r/pppppppp/8/8/8/8/PPPPPPPP/R3K2R", 0);
+    Nuevos(2);
+    Dice(1, "my move is: e1g1");
+    EXPECT_EQ(En("g1"), ReyB);
+    EXPECT_EQ(Nuevos(2), (Vec{"e1g1\r\ntime 0\r\notim 0"}));
+    t2.Vencer();
+    EXPECT_TRUE(Nuevos(2).empty());
+}
+
 TEST_F(Motores, AnyOtherLineCancelsTheCastlingFallback) {
     Empezar(1, 2);
     Colocar("r3k2r/pppppppp/8/8/8/8/PPPPPPPP/R3K2R", 0);
