@@ -89,6 +89,13 @@ TEST_F(Busqueda, WithoutFoldersAFileInTheFolderItself) {
     EXPECT_EQ(Nombres(), (std::vector<std::string>{"b"}));
 }
 
+TEST_F(Busqueda, ANameWithNothingBeforeItsEndingStopsTheSearch) {
+    Fichero("a/uno.com");
+    Fichero("b/EXE");
+    Fichero("c/tres.exe");
+    EXPECT_EQ(Nombres(), (std::vector<std::string>{"uno"}));
+}
+
 TEST_F(Busqueda, MissingFolderAndLinks) {
     EXPECT_TRUE(BuscarMotores((raiz / "nada").string()).empty());
     Fichero("real/motor", true);
