@@ -119,7 +119,7 @@ void PuenteConsola::Leer() {
     if (!proceso_) return;
     const QByteArray datos = proceso_->readAllStandardOutput();
     Partir(datos.constData(), static_cast<std::size_t>(datos.size()));
-    Entregar(vivo_);
+    Entregar();
 }
 
 void PuenteConsola::Partir(const char* datos, std::size_t n) {
@@ -137,7 +137,7 @@ void PuenteConsola::Partir(const char* datos, std::size_t n) {
         if (!fin) break;
         if (!descartando_) {
             if (!pendiente_.empty() && pendiente_.back() == '\r') pendiente_.pop_back();
-            cola_.push_back(std::move(pendiente_));
+            Encolar(std::move(pendiente_));
         }
         pendiente_.clear();
         descartando_ = false;
@@ -145,32 +145,44 @@ void PuenteConsola::Partir(const char* datos, std::size_t n) {
     }
 }
 
-void PuenteConsola::Entregar(const std::shared_ptr<bool>& vivo) {
-    // A handler may run the event loop and so come back here: lines keep their order because
-    // every level takes from the front of the one queue.
-    const auto corre = vivo;
+void PuenteConsola::Encolar(std::string linea) {
+    if (bytesCola_ + linea.size() > kColaMaxima) return;
+    bytesCola_ += linea.size();
+    cola_.push_back({false, std::move(linea)});
+}
+
+void PuenteConsola::Entregar() {
+    // A handler that runs the event loop brings us back here: what comes meanwhile waits in the
+    // queue for the loop below, so reports keep their order and never nest.
+    if (entregando_) return;
     const auto existe = existe_;
-    while (*existe && corre && *corre && !cola_.empty()) {
-        std::string linea = std::move(cola_.front());
+    entregando_ = true;
+    while (vivo_ && *vivo_ && !cola_.empty()) {
+        Aviso aviso = std::move(cola_.front());
         cola_.pop_front();
-        if (alDatoRecibido) alDatoRecibido(linea);
+        if (aviso.error) {
+            Soltar();
+            if (alErrorRecibido) alErrorRecibido(aviso.texto);
+        } else {
+            bytesCola_ -= aviso.texto.size();
+            if (alDatoRecibido) alDatoRecibido(aviso.texto);
+        }
+        if (!*existe) return;
     }
+    entregando_ = false;
 }
 
 void PuenteConsola::AlAcabar(int codigo, bool caido) {
     if (!proceso_) return;
-    const auto corre = vivo_;
-    const auto existe = existe_;
     const QByteArray resto = proceso_->readAllStandardOutput();
     Partir(resto.constData(), static_cast<std::size_t>(resto.size()));
-    if (!pendiente_.empty() && !descartando_) cola_.push_back(std::move(pendiente_));
+    if (!pendiente_.empty() && !descartando_) Encolar(std::move(pendiente_));
     pendiente_.clear();
-    Entregar(corre);
-    if (!*existe || !*corre) return; // ended from a handler of its last words
-    const std::string texto = caido ? "the engine stopped on signal " + std::to_string(codigo)
-                                    : "the engine ended with exit status " + std::to_string(codigo);
-    Soltar();
-    if (alErrorRecibido) alErrorRecibido(texto);
+    // Whatever the program started and left behind goes with it.
+    MatarGrupo(grupo_, SIGKILL);
+    cola_.push_back({true, caido ? "the engine stopped on signal " + std::to_string(codigo)
+                                 : "the engine ended with exit status " + std::to_string(codigo)});
+    Entregar();
 }
 
 void PuenteConsola::Terminar() {
@@ -194,6 +206,7 @@ void PuenteConsola::Soltar() {
     if (vivo_) *vivo_ = false;
     vivo_.reset();
     cola_.clear();
+    bytesCola_ = 0;
     pendiente_.clear();
     descartando_ = false;
     // Whatever the program started and left behind goes with it.

@@ -34,21 +34,30 @@ public:
     void Enviar(const std::string& texto);
     bool Ejecutando() const;
 
-    // One line of output, without its line end (LF or CR LF).
+    // One line of output, without its line end (LF or CR LF). Reports never nest: while a
+    // handler runs, even one that runs the event loop, the next report waits for its return.
     std::function<void(const std::string&)> alDatoRecibido;
-    // The program ended by itself, or could no longer be written to.
+    // The program ended by itself, after its last lines.
     std::function<void(const std::string&)> alErrorRecibido;
 
     // A line longer than this without a line end is dropped whole, up to its end.
     static constexpr std::size_t kLineaMaxima = 64 * 1024;
+    // Lines waiting for a handler that runs the event loop beyond this many bytes are dropped.
+    static constexpr std::size_t kColaMaxima = 4 * 1024 * 1024;
     // Bound of each wait inside `Terminar`, in milliseconds.
     static constexpr int kEsperaPedir = 300;
     static constexpr int kEsperaTerminar = 700;
 
 private:
+    struct Aviso {
+        bool error;
+        std::string texto;
+    };
+
     void Leer();
     void Partir(const char* datos, std::size_t n);
-    void Entregar(const std::shared_ptr<bool>& vivo);
+    void Encolar(std::string linea);
+    void Entregar();
     void AlAcabar(int codigo, bool caido);
     void Soltar();
 
@@ -56,7 +65,9 @@ private:
     long long grupo_ = 0;
     std::string pendiente_;        // the start of a line whose end has not come
     bool descartando_ = false;     // inside an over-long line, until its end
-    std::deque<std::string> cola_; // whole lines not yet delivered
+    std::deque<Aviso> cola_;       // reports not yet delivered
+    std::size_t bytesCola_ = 0;    // bytes of the lines among them
+    bool entregando_ = false;      // a handler of ours runs
     int enAviso_ = 0;              // depth of our own handlers of the process's signals
     std::shared_ptr<bool> vivo_;   // false once the run is over: deliveries stop
     std::shared_ptr<bool> existe_; // false once this object is gone

@@ -6,6 +6,7 @@
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 #include <fstream>
 #include <string>
@@ -117,12 +118,21 @@ TEST(PuenteConsola, AHandlerThatEndsTheProgramStopsTheDeliveryAtOnce) {
     EXPECT_TRUE(e.errores.empty());
 }
 
-TEST(PuenteConsola, AHandlerRunningTheEventLoopKeepsTheOrder) {
+TEST(PuenteConsola, AHandlerRunningTheEventLoopIsNeverEnteredAgain) {
     Escucha e;
+    int dentro = 0, maximo = 0;
+    auto entrar = [&] { maximo = std::max(maximo, ++dentro); };
     e.puente.alDatoRecibido = [&](const std::string& l) {
+        entrar();
         e.lineas.push_back(l);
         // A modal box would do this.
-        if (l == "5") qa::prueba::Girar(50);
+        if (l == "5" || l == "99999") qa::prueba::Girar(100);
+        --dentro;
+    };
+    e.puente.alErrorRecibido = [&](const std::string& t) {
+        entrar();
+        e.errores.push_back(t);
+        --dentro;
     };
     ASSERT_TRUE(e.puente.Ejecutar(Guion("riada.sh")));
     ASSERT_TRUE(e.Esperar(100000, 60000));
@@ -130,6 +140,18 @@ TEST(PuenteConsola, AHandlerRunningTheEventLoopKeepsTheOrder) {
     for (std::size_t i = 0; i < e.lineas.size(); ++i)
         enOrden = enOrden && e.lineas[i] == std::to_string(i + 1);
     EXPECT_TRUE(enOrden);
+    EXPECT_EQ(maximo, 1);
+    // The end of a program is reported after its last line's handler has returned.
+    ASSERT_TRUE(e.puente.Ejecutar(Guion("sale.sh")));
+    e.puente.alDatoRecibido = [&](const std::string& l) {
+        entrar();
+        e.lineas.push_back(l);
+        qa::prueba::Girar(200);
+        --dentro;
+    };
+    ASSERT_TRUE(qa::prueba::EsperarA([&] { return !e.errores.empty(); }, 10000));
+    EXPECT_EQ(e.lineas.back(), "adios");
+    EXPECT_EQ(maximo, 1);
 }
 
 TEST(PuenteConsola, AProgramThatEndsByItselfIsReportedAfterItsLastWords) {
