@@ -16,3 +16,7 @@ install(CODE "
 install(FILES ${CMAKE_SOURCE_DIR}/desktop/quintarena.desktop DESTINATION share/applications)
 install(FILES ${CMAKE_SOURCE_DIR}/board/pieces/caballob.svg
         DESTINATION share/icons/hicolor/scalable/apps RENAME quintarena.svg)
+install(CODE "
+  execute_process(COMMAND bash ${CMAKE_SOURCE_DIR}/tools/make-engines.sh
+                  \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${QA_CARPETA_INSTALADA}\")
+")
