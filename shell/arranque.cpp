@@ -12,7 +12,9 @@
 #include "shell/barra_estado.h"
 #include "shell/chat.h"
 #include "shell/configuracion.h"
+#include "shell/cpu.h"
 #include "shell/enlaces.h"
+#include "shell/form_level2.h"
 #include "shell/formularios.h"
 #include "shell/jugadas.h"
 #include "shell/mdi.h"
@@ -266,8 +268,10 @@ void CrearFormularios() {
     f.chat = new Chat;
     f.reloj = new Reloj;
     f.ranking = new Ranking;
+    f.formLevel2 = new FormLevel2(mdi);
+    f.cpu = new Cpu(*f.formLevel2);
     for (QMdiSubWindow* w : std::initializer_list<QMdiSubWindow*>{f.quintarena, f.jugadas, f.chat,
-                                                                  f.reloj, f.ranking}) {
+                                                                  f.reloj, f.ranking, f.cpu}) {
         mdi->Area()->addSubWindow(w);
         w->hide();
     }

@@ -132,6 +132,7 @@ void LeerOpciones() {
     c.Level2Combo1 = Leer("CPU", "Jugadas");
     auto opcion = AEntero(Leer("CPU", "Option"));
     c.Level2Option = opcion && *opcion >= 0 && *opcion <= 2 ? static_cast<int>(*opcion) : 0;
+    Ejecutar(Enlace().NivelesLeidos);
 }
 
 void GuardarOpciones() {

@@ -22,6 +22,11 @@ struct Enlaces {
 
     // Steps of the close and the load that belong to the other layers.
     std::function<void()> CerrarMotores, DescargarDLL, CerrarSockets, Desconectar, CambiarNick;
+    // The engine form: shown for a new game at this machine; its commands "3" resign, "4" offer
+    // a draw, "5" take back, which the main menu's entries become while it is up; the levels
+    // read from the settings.
+    std::function<void()> MostrarCpu, NivelesLeidos;
+    std::function<void(const std::string&)> ToolboxComand;
     std::function<void()> CargarImagenes, NotacionCambiada, PointClickCambiado, PintarFondos;
     std::function<int()> AlturaFichas; // height of the piece buffers, for the size setting
     std::function<void()> CambiarTamano, RepintarPaleta;

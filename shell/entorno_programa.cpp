@@ -59,23 +59,13 @@ public:
     void SumaDePartidas(int) override {} // only a rated game over the network is scored
 };
 
-// No engine can be started yet: the engine form is never up and no side is an engine's.
-class SinMotor final : public EntornoMotor {
-public:
-    bool CpuVisible() override { return false; }
-    void DetenerTimersCpu() override {}
-    void GenerarMovimiento() override {}
-};
-
 } // namespace
 
 void InstalarEntornoPrograma() {
     static DialogosPrograma dialogos;
     static SinConexion red;
-    static SinMotor motor;
     InstalarDialogos(&dialogos);
     InstalarRed(&red);
-    InstalarMotor(&motor);
 }
 
 } // namespace qa

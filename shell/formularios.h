@@ -15,6 +15,8 @@ class Reloj;
 class Ranking;
 class Opciones;
 class Splash;
+class Cpu;
+class FormLevel2;
 
 struct Formularios {
     Mdi* mdi = nullptr;
@@ -25,6 +27,8 @@ struct Formularios {
     Ranking* ranking = nullptr;
     Opciones* opciones = nullptr;
     Splash* splash = nullptr;
+    Cpu* cpu = nullptr;
+    FormLevel2* formLevel2 = nullptr;
 };
 
 Formularios& Forms();

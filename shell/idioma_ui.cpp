@@ -6,6 +6,7 @@
 #include "shell/arranque.h"
 #include "shell/chat.h"
 #include "shell/configuracion.h"
+#include "shell/cpu.h"
 #include "shell/formularios.h"
 #include "shell/jugadas.h"
 #include "shell/mdi.h"
@@ -75,6 +76,7 @@ void Idioma() {
     if (f.opciones) f.opciones->AplicarIdioma();
     if (f.ranking) f.ranking->AplicarIdioma();
     if (f.splash) f.splash->AplicarIdioma();
+    if (f.cpu) f.cpu->AplicarIdioma();
     TraducirQt();
     // The forms that read their own texts (the board's, the browsers) read them again now.
     for (QWidget* w : QApplication::topLevelWidgets()) {

@@ -188,6 +188,14 @@ void Mdi::MostrarAyuda() {
 
 void Mdi::Comando(const std::string& n) {
     auto& en = Enlace();
+    // While the engine form is up these three are its toolbar's.
+    static const std::pair<const char*, const char*> kDelMotor[] = {
+        {"mnuRendirse", "3"}, {"mnuOfrecerTablas", "4"}, {"mnuRetroceder", "5"}};
+    for (const auto& [entrada, codigo] : kDelMotor) {
+        if (n != entrada || !motor().CpuVisible()) continue;
+        if (en.ToolboxComand) en.ToolboxComand(codigo);
+        return;
+    }
     if (n == "mnuAbrirPartida") {
         AbrirFichero("");
     } else if (n == "mnuGuararChat" || n == "mnuChatListGuardar") {

@@ -214,10 +214,14 @@ void InstalarTablero() {
             T().set->raise();
         }
     };
-    // At one machine a new game is the engine form's with no engine on either side; until
-    // that form exists the command gives the same clean board with White to move.
+    // At one machine a new game is the engine form's: an engine on either side or none. Without
+    // that form the command gives the same clean board with White to move.
     en.Comandos["mnuNuevaPartida"] = [] {
         if (PartidaOcupada() || Variables::Conectado || !T().vista) return;
+        if (Enlace().MostrarCpu) {
+            Enlace().MostrarCpu();
+            return;
+        }
         PartidaLocal(*T().vista->Picture());
         // A new game is seen from White's side.
         if (Marcada("mnuInvertirTablero")) {

@@ -11,6 +11,7 @@
 #include "language/idioma.h"
 #include "platform/ini_file.h"
 #include "shell/arranque.h"
+#include "shell/cpu.h"
 #include "shell/enlaces.h"
 #include "shell/entorno_programa.h"
 #include "shell/ficheros_programa.h"
@@ -88,6 +89,13 @@ protected:
                                    : Forms().mdi->grab();
         imagen.save(QString::fromUtf8(d) + "/" + nombre + ".png");
     }
+    // A new game at this machine: the engine form comes up, and its start with a person on
+    // each side gives the board.
+    void NuevaPartida() {
+        Entrada("mnuNuevaPartida")->trigger();
+        ASSERT_TRUE(Forms().cpu->isVisible());
+        Forms().cpu->Boton(1)->trigger();
+    }
     std::string Lista() const { return Forms().jugadas->Lista()->Texto().toStdString(); }
     // Every file dialog answers with this file of the scratch folder.
     void Responder(const std::string& nombre) {
@@ -127,7 +135,7 @@ TEST_F(ProgramaConTablero, FoolsMateFromTheMenuToTheMessage) {
     Arrastrar("e2e4");
     EXPECT_EQ(Tablero[5][4], 0) << "nobody moves before a game begins";
 
-    Entrada("mnuNuevaPartida")->trigger();
+    NuevaPartida();
     ASSERT_EQ(Turno, 1);
     for (const char* j : {"f2f3", "e7e5", "g2g4"}) Arrastrar(j);
     EXPECT_EQ(Turno, 2);
@@ -143,7 +151,11 @@ TEST_F(ProgramaConTablero, FoolsMateFromTheMenuToTheMessage) {
     EXPECT_NE(Lista().find("2. g4"), std::string::npos) << Lista();
     Captura("programa-mate");
 
-    // The board as a picture: the squares alone, eight by eight.
+    // The board as a picture: the squares alone, eight by eight; not while the engine form
+    // is up.
+    Entrada("mnuGuararImagen")->trigger();
+    EXPECT_TRUE(cajas.Hay(Mensajes[80]));
+    Forms().cpu->close();
     const std::string bmp = carpeta.Ruta("tablero.bmp").string();
     FijarPresentadorDialogos([&](int, const std::string&) {
         RespuestaDialogo r;
@@ -163,7 +175,7 @@ TEST_F(ProgramaConTablero, FoolsMateFromTheMenuToTheMessage) {
 }
 
 TEST_F(ProgramaConTablero, ReversedBoardFromTheMenuTakesTheMouseTheOtherWay) {
-    Entrada("mnuNuevaPartida")->trigger();
+    NuevaPartida();
     Entrada("mnuInvertirTablero")->trigger();
     ASSERT_TRUE(Marcada("mnuInvertirTablero"));
     PicBuffer* p = vista->Picture();
@@ -176,7 +188,7 @@ TEST_F(ProgramaConTablero, ReversedBoardFromTheMenuTakesTheMouseTheOtherWay) {
 }
 
 TEST_F(ProgramaConTablero, PointAndClickFromTheMenu) {
-    Entrada("mnuNuevaPartida")->trigger();
+    NuevaPartida();
     Entrada("mnuPointClick")->trigger();
     ASSERT_TRUE(Marcada("mnuPointClick"));
     PicBuffer* p = vista->Picture();
@@ -187,8 +199,9 @@ TEST_F(ProgramaConTablero, PointAndClickFromTheMenu) {
 }
 
 TEST_F(ProgramaConTablero, SavedGameFileReplaysOnTheBoardByItsTimers) {
-    Entrada("mnuNuevaPartida")->trigger();
+    NuevaPartida();
     for (const char* j : {"e2e4", "e7e5", "g1f3", "b8c6", "f1c4"}) Arrastrar(j);
+    Forms().cpu->close(); // the engine form's game cannot be saved while it is up
     int32_t antes[9][9];
     std::copy(&Tablero[0][0], &Tablero[0][0] + 81, &antes[0][0]);
     const std::string ruta = carpeta.Ruta("partida.qtr").string();
@@ -199,7 +212,8 @@ TEST_F(ProgramaConTablero, SavedGameFileReplaysOnTheBoardByItsTimers) {
     EXPECT_EQ(carpeta.Leer("partida.qtr"),
               "0000\r\n0000\r\nA\r\n5254\r\n5755\r\n7163\r\n2836\r\n6134\r\n");
 
-    Entrada("mnuNuevaPartida")->trigger();
+    NuevaPartida();
+    Forms().cpu->close();
     Entrada("mnuAbrirPartida")->trigger();
     EXPECT_TRUE(Cargando) << "the replay runs on its timers";
     ASSERT_TRUE(prueba::Esperar([] { return !Cargando; }, 10000));
@@ -246,6 +260,7 @@ TEST_F(ProgramaConTablero, PgnCollectionOpensInTheBrowserAndPlaysOnTheBoard) {
         }
 
     Entrada("mnuNuevaPartida")->trigger();
+    EXPECT_FALSE(Forms().cpu->isVisible());
     EXPECT_EQ(Turno, 0) << "no new game while the browser is up";
     for (QWidget* w : QApplication::topLevelWidgets())
         if (w->inherits("qa::ListaPgnF")) w->close();
@@ -255,9 +270,10 @@ TEST_F(ProgramaConTablero, PgnCollectionOpensInTheBrowserAndPlaysOnTheBoard) {
 }
 
 TEST_F(ProgramaConTablero, NewGameLeavesNothingOfTheGameBefore) {
-    Entrada("mnuNuevaPartida")->trigger();
+    NuevaPartida();
     Arrastrar("e2e4");
     ASSERT_TRUE(vista->Picture()->MarcosMostrados());
+    Forms().cpu->close();
     // The EPD browser shows its positions on a board of its own: the last move is no longer
     // the main board's.
     carpeta.Escribir("una.epd", "4k3/8/8/8/8/8/8/4K2R w K -\n");
@@ -277,7 +293,7 @@ TEST_F(ProgramaConTablero, NewGameLeavesNothingOfTheGameBefore) {
     TipoPartida = "A";
     ColorJugador = "Blancas";
 
-    Entrada("mnuNuevaPartida")->trigger();
+    NuevaPartida();
     EXPECT_FALSE(DesdePosicion);
     EXPECT_EQ(TipoPartida, "");
     EXPECT_EQ(ColorJugador, "");
@@ -289,6 +305,7 @@ TEST_F(ProgramaConTablero, NewGameLeavesNothingOfTheGameBefore) {
     EXPECT_EQ(Tablero[1][1], TorreB);
     Captura("programa-nueva-partida");
 
+    Forms().cpu->close();
     Responder("nueva.qtr");
     Entrada("mnuGuardarPartida")->trigger();
     FijarPresentadorDialogos(nullptr);
