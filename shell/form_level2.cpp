@@ -128,10 +128,10 @@ void FormLevel2::CargarDeControles() {
     // Each box's change writes the settings back: take them all before the first is set.
     const ControlesPendientes c = Controles();
     cargando_ = true;
-    // The boxes correct what they are given, as typing would.
-    textos_[1]->setText(Q(c.Level2Text1));
-    textos_[2]->setText(Q(c.Level2Text2));
-    textos_[3]->setText(Q(c.Level2Text3));
+    // A box left empty in the file shows 1, as it would after any change.
+    textos_[1]->setText(Q(CorregirNivel(c.Level2Text1, LimiteNivel(1))));
+    textos_[2]->setText(Q(CorregirNivel(c.Level2Text2, LimiteNivel(2))));
+    textos_[3]->setText(Q(CorregirNivel(c.Level2Text3, LimiteNivel(3))));
     if (!c.Level2Combo1.empty()) {
         if (combo1_->findText(Q(c.Level2Combo1)) < 0) combo1_->addItem(Q(c.Level2Combo1));
         combo1_->setCurrentText(Q(c.Level2Combo1));
