@@ -47,6 +47,14 @@ struct Escucha {
     }
 };
 
+// A round trip with another program: whatever a stale report would do, it has had its chance.
+bool OtraVuelta() {
+    Escucha otro;
+    if (!otro.puente.Ejecutar(Guion("eco.sh"))) return false;
+    otro.puente.Enviar("x");
+    return otro.Esperar(1);
+}
+
 TEST(PuenteConsola, CommandsReachTheProgramAsLinesEachEnded) {
     Escucha e;
     ASSERT_TRUE(e.puente.Ejecutar(Guion("eco.sh")));
@@ -109,11 +117,7 @@ TEST(PuenteConsola, AHandlerThatEndsTheProgramStopsTheDeliveryAtOnce) {
     ASSERT_TRUE(e.puente.Ejecutar(Guion("riada.sh")));
     ASSERT_TRUE(e.Esperar(10));
     EXPECT_FALSE(e.puente.Ejecutando());
-    // Another run's output proves the event loop has had its turn.
-    Escucha otro;
-    ASSERT_TRUE(otro.puente.Ejecutar(Guion("eco.sh")));
-    otro.puente.Enviar("x");
-    ASSERT_TRUE(otro.Esperar(1));
+    ASSERT_TRUE(OtraVuelta());
     EXPECT_EQ(e.lineas.size(), 10u);
     EXPECT_TRUE(e.errores.empty());
 }
@@ -190,10 +194,7 @@ TEST(PuenteConsola, WhatCannotStartFailsWithoutAReport) {
     EXPECT_FALSE(e.puente.Ejecutando());
     e.puente.Enviar("hola");
     e.puente.Terminar();
-    Escucha otro;
-    ASSERT_TRUE(otro.puente.Ejecutar(Guion("eco.sh")));
-    otro.puente.Enviar("x");
-    ASSERT_TRUE(otro.Esperar(1));
+    ASSERT_TRUE(OtraVuelta());
     EXPECT_TRUE(e.errores.empty());
     EXPECT_TRUE(e.lineas.empty());
 }
@@ -210,10 +211,7 @@ TEST(PuenteConsola, ADeafProgramIsKilledWithinTheBoundAndReportsNothing) {
     EXPECT_LT(reloj.elapsed(), 4000);
     EXPECT_FALSE(Existe(pid));
     EXPECT_FALSE(e.puente.Ejecutando());
-    Escucha otro;
-    ASSERT_TRUE(otro.puente.Ejecutar(Guion("eco.sh")));
-    otro.puente.Enviar("x");
-    ASSERT_TRUE(otro.Esperar(1));
+    ASSERT_TRUE(OtraVuelta());
     EXPECT_TRUE(e.errores.empty());
 }
 
