@@ -235,9 +235,16 @@ void Cpu::Retirar(int motor) {
     if (!consolas_[motor]) return;
     consolas_[motor]->Callar();
     retiradas_.push_back(std::move(consolas_[motor]));
+    LimpiarRetiradas();
+}
+
+void Cpu::LimpiarRetiradas() {
     // Let go only once no report of ours is running: the logic may be inside one of theirs.
     QTimer::singleShot(0, this, [this] {
-        if (enInforme_ == 0) retiradas_.clear();
+        if (enInforme_ == 0)
+            retiradas_.clear();
+        else
+            LimpiarRetiradas();
     });
 }
 

@@ -63,6 +63,7 @@ private:
     class Consola;
     void Pulsar(int indice);
     void Retirar(int motor);
+    void LimpiarRetiradas();
 
     FormLevel2& niveles_;
     std::unique_ptr<TemporizadorQt> timers_[6];

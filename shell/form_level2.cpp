@@ -185,8 +185,9 @@ bool FormLevel2::eventFilter(QObject* objeto, QEvent* evento) {
     if (evento->type() != QEvent::KeyPress) return QDialog::eventFilter(objeto, evento);
     auto* tecla = static_cast<QKeyEvent*>(evento);
     const QString texto = tecla->text();
-    // Keys that type nothing (arrows, Tab) move about as anywhere else.
-    if (texto.isEmpty() || tecla->key() == Qt::Key_Tab || tecla->key() == Qt::Key_Backtab)
+    // Keys that type no character (arrows, Tab, Delete) work as anywhere else.
+    if (texto.isEmpty() || tecla->key() == Qt::Key_Tab || tecla->key() == Qt::Key_Backtab ||
+        tecla->key() == Qt::Key_Delete)
         return QDialog::eventFilter(objeto, evento);
     const bool pasa = objeto != combo1_ && texto.size() == 1 && TeclaNivel(texto[0].unicode());
     if (pasa) return false;
