@@ -114,6 +114,12 @@ protected:
         return prueba::Esperar(
             [] { return MotorBlancas && MotorNegras && !Jugadas::List1.empty(); }, 60000);
     }
+    // A box of a failure of the console: "[ERROR] " and its text.
+    bool HayError() const {
+        for (const auto& c : cajas.vistas)
+            if (c.texto.rfind("[ERROR] ", 0) == 0) return true;
+        return false;
+    }
     std::string Cajas() const {
         std::string todas;
         for (const auto& c : cajas.vistas) todas += "[" + c.texto + "] ";
@@ -226,12 +232,7 @@ TEST_F(ProgramaConMotores, AnEngineKilledMidGameEndsItAndANewGameStartsAtOnce) {
     ASSERT_EQ(negras.size(), 1u);
     ::kill(static_cast<pid_t>(*negras.begin()), SIGKILL);
 
-    auto error = [&] {
-        for (const auto& c : cajas.vistas)
-            if (c.texto.rfind("[ERROR] ", 0) == 0) return true;
-        return false;
-    };
-    ASSERT_TRUE(prueba::Esperar(error, 20000)) << Cajas();
+    ASSERT_TRUE(prueba::Esperar([&] { return HayError(); }, 20000)) << Cajas();
     EXPECT_FALSE(MotorBlancas || MotorNegras);
     EXPECT_EQ(Turno, 0);
     for (long pid : blancas) EXPECT_TRUE(prueba::Esperar([pid] { return !Vive(pid); }));
@@ -257,6 +258,40 @@ TEST_F(ProgramaConMotores, NoEngineOutlivesTheProgram) {
     Forms().mdi->close();
     for (long pid : motores)
         EXPECT_TRUE(prueba::Esperar([pid] { return !Vive(pid); })) << "engine " << pid << " lives";
+}
+
+// The engines the README says play make their first move against a person; the one that
+// ends on the first error it meets ends the game with the failure at once.
+TEST_F(ProgramaConMotores, EachEngineThatPlaysMakesItsFirstMoveAsWhite) {
+    int probados = 0;
+    for (const char* motor : {"fairymax", "phalanx", "sjeng", "stockfish"}) {
+        if (!Instalado(motor)) continue;
+        ++probados;
+        Entrada("mnuNuevaPartida")->trigger();
+        Nivel(1, 1, "1");
+        Elegir(1, motor);
+        cpu->Boton(1)->trigger();
+        EXPECT_TRUE(prueba::Esperar([] { return Jugadas::List1.size() == 1 && Turno == 2; }, 60000))
+            << motor << ": " << Cajas();
+        const std::string nombre = motor == std::string("stockfish") ? "polyglot" : motor;
+        const auto pids = Hijos(nombre);
+        EXPECT_EQ(pids.size(), 1u) << motor;
+        cpu->close();
+        for (long pid : pids) EXPECT_TRUE(prueba::Esperar([pid] { return !Vive(pid); })) << motor;
+    }
+    if (probados == 0) GTEST_SKIP() << "none of the engines is installed (tools/install-deps.sh)";
+}
+
+TEST_F(ProgramaConMotores, HoichessEndsTheGameAtOnceWithItsExit) {
+    if (!Instalado("hoichess"))
+        GTEST_SKIP() << "hoichess is not installed (tools/install-deps.sh installs it)";
+    Entrada("mnuNuevaPartida")->trigger();
+    Elegir(1, "hoichess");
+    cpu->Boton(1)->trigger();
+    ASSERT_TRUE(prueba::Esperar([&] { return HayError(); }, 20000)) << Cajas();
+    EXPECT_FALSE(MotorBlancas);
+    EXPECT_TRUE(Jugadas::List1.empty());
+    EXPECT_TRUE(prueba::Esperar([] { return Hijos("hoichess").empty(); }));
 }
 
 } // namespace
