@@ -79,7 +79,8 @@ public:
     void MenuObtenerIp();
     void MenuDesconectar();
     void MenuCambiarNick();
-    void MenuNuevaPartida();
+    // False when not connected: the command belongs to engine play.
+    bool MenuNuevaPartida();
     void MenuRendirse();
     void MenuOfrecerTablas();
     void MenuRetroceder();
@@ -146,6 +147,9 @@ public:
     // Question boxes opened by the peer's messages, one inside the other, at most this many; a
     // question beyond them is answered no.
     static constexpr int kPreguntasAnidadas = 8;
+    // The most text the chat history takes; beyond it the user is asked to save it, and it is
+    // emptied.
+    static constexpr std::size_t kLimiteChat = 1 << 20;
 
 private:
     struct Impl;
