@@ -54,6 +54,14 @@ bool Digito(char c) {
     return c >= '0' && c <= '9';
 }
 
+// A promotion piece: a piece code, or 0 for none. Any other number would put on the board a
+// piece that nothing can draw or move.
+std::optional<int32_t> Pieza(std::string_view s) {
+    const auto v = Entero(s);
+    if (!v || *v < 0 || *v > 12) return std::nullopt;
+    return v;
+}
+
 } // namespace
 
 Clase Clasificar(std::string_view texto, std::size_t desde, std::size_t* siguiente) {
@@ -122,7 +130,7 @@ std::optional<Movimiento> LeerMovimiento(std::string_view t) {
     if (casillas.size() < 4) return std::nullopt;
     for (char c : casillas)
         if (!Digito(c)) return std::nullopt;
-    const auto pieza = Entero(Mid(t, 16));
+    const auto pieza = Pieza(Mid(t, 16));
     if (!pieza) return std::nullopt;
     return Movimiento{std::string(casillas.substr(0, 2)), std::string(casillas.substr(2, 2)),
                       *pieza};
@@ -188,7 +196,7 @@ std::optional<LineaQtr> LeerQtr(std::string_view t) {
         l.origen = std::string(Mid(t, 7, 2));
         l.destino = std::string(Mid(t, 9, 2));
         if (t.size() >= 11) {
-            const auto p = Entero(Mid(t, 11));
+            const auto p = Pieza(Mid(t, 11));
             if (!p) return std::nullopt;
             l.conPieza = true;
             l.pieza = *p;
