@@ -91,6 +91,7 @@ void Quintarena::Cargar() {
     if (CierrePedido()) return;
     op->CargarApariencia(LeerIni(FicheroOpciones, "Configuracion", "Apariencia"));
     LeerPuntuacion();
+    PrintPuntuacion();
 
     QScreen* pantalla = QGuiApplication::primaryScreen();
     if (pantalla && !ComprobarColores(pantalla->depth())) {
