@@ -141,6 +141,12 @@ struct SesionRed::Impl {
         }
         PrintTimerN();
     }
+    // Both counters to 0, shown.
+    void RelojesCero() {
+        MinutosBlancas = SegundosBlancas = MinutosNegras = SegundosNegras = 0;
+        PrintB();
+        PrintN();
+    }
     void Relojes(bool blancas, bool negras) {
         t.relojBlancas.Habilitar(blancas);
         t.relojNegras.Habilitar(negras);
@@ -272,9 +278,7 @@ void SesionRed::Impl::ConexionEstablecida() {
     ColorJugador.clear();
     DesdePosicion = false;
     Jugadas::Vaciar();
-    MinutosBlancas = SegundosBlancas = MinutosNegras = SegundosNegras = 0;
-    PrintB();
-    PrintN();
+    RelojesCero();
     PonerFichas();
     dibujo().RedibujarTablero();
     vista.GirarTablero(false);
@@ -310,9 +314,7 @@ void SesionRed::Impl::ConexionCerrada() {
         NuevoAceptado();
         MovimientoAnulado();
         Cargando = DesdePosicion = false;
-        MinutosBlancas = SegundosBlancas = MinutosNegras = SegundosNegras = 0;
-        PrintB();
-        PrintN();
+        RelojesCero();
     }
     AnadirChat("*** " + M(41) + FinLinea);
     vista.RedibujarBarraEstado();
@@ -691,9 +693,7 @@ void SesionRed::Impl::Epd(const wire::Posicion& p) {
     Jugadas::Vaciar();
     VariablesCero();
     MovimientoAnulado();
-    MinutosBlancas = SegundosBlancas = MinutosNegras = SegundosNegras = 0;
-    PrintB();
-    PrintN();
+    RelojesCero();
     TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = true;
     LineasPartida.assign(2, std::string());
     LineaActual = ColorInicio = 0;
@@ -736,9 +736,7 @@ void SesionRed::Impl::Qtr(const wire::LineaQtr& l) {
         PonerFichas();
         dialogos().PonerTextoReloj(1, "");
         dialogos().PonerTextoReloj(2, "");
-        MinutosBlancas = SegundosBlancas = MinutosNegras = SegundosNegras = 0;
-        PrintB();
-        PrintN();
+        RelojesCero();
         LineasPartida.assign(2, std::string());
         LineasPartida[1] = "E";
     }
@@ -790,9 +788,7 @@ void SesionRed::Impl::Qtr(const wire::LineaQtr& l) {
             ColorInicio = 0;
         if (Mate || Ahogado) {
             TerminarPartida();
-            MinutosBlancas = SegundosBlancas = MinutosNegras = SegundosNegras = 0;
-            PrintB();
-            PrintN();
+            RelojesCero();
             if (Mate) FinPorMate();
             if (Ahogado) FinPorAhogado();
         }
@@ -811,9 +807,7 @@ void SesionRed::Impl::ErrorQtr() {
     vista.GirarTablero(false);
     QuitaMarco();
     Avisar(55);
-    MinutosBlancas = SegundosBlancas = MinutosNegras = SegundosNegras = 0;
-    PrintB();
-    PrintN();
+    RelojesCero();
 }
 
 void SesionRed::Impl::EmpezarReplay(const std::string& ruta) {
