@@ -746,6 +746,31 @@ TEST_F(Sesion, AReceivedPositionMakesAFreeGameWithTheColoursSwapped) {
     EXPECT_EQ(Salida(), Textos{"EPD T2B k7/8"});
 }
 
+TEST_F(Sesion, AConnectionLostUnderTheQuestionRefusesTheOfferButNotATakeBack) {
+    const auto perder = [this] { s->AlCerrar(qa::Lado::Servidor); };
+    PartidaBlancas();
+    red.bajoLaCaja = perder;
+    Recibir("NuevoJuego 1 R 3");
+    EXPECT_EQ(MinutosBlancas, 5) << "no new game on a yes after the link went";
+    EXPECT_EQ(TipoPartida, "");
+    EXPECT_FALSE(Conectado);
+
+    red.bajoLaCaja = nullptr;
+    PartidaBlancas();
+    red.bajoLaCaja = perder;
+    Recibir("OfrecerTablas");
+    EXPECT_EQ(qa::Puntuacion.PartidasTablas, 0);
+
+    red.bajoLaCaja = nullptr;
+    PartidaBlancas();
+    ASSERT_EQ(Mover("e2e4").tipo, Respuesta::Legal);
+    Recibir("Movimiento 57550");
+    red.bajoLaCaja = perder;
+    Recibir("Retroceso");
+    EXPECT_EQ(En("e7"), PeonN) << "the take-back is carried out all the same";
+    EXPECT_EQ(En("e5"), Vacia);
+}
+
 TEST_F(Sesion, TheOfferGuards) {
     PartidaBlancas();
     red.cpuVisible = true;
