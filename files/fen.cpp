@@ -179,6 +179,14 @@ bool LeerFen(const std::string& linea) {
     return true;
 }
 
+void JugadaVaciaBlancas() {
+    MedioTurno = false;
+    NumeroJugada = 0;
+    ColOrigen = FilaOrigen = ColDestino = FilaDestino = 0;
+    PiezaCoronacion = 0;
+    EscribirJugada();
+}
+
 bool AbrirEpd() {
     Cargando = true;
     TipoPartida.clear();
@@ -198,14 +206,7 @@ bool AbrirEpd() {
     const bool aceptada = LeerFen(PosicionFen);
     if (Conectado) Turno = static_cast<int16_t>(red().PreguntarColor() == 2 ? 2 : 1);
     dibujo().RedibujarTablero();
-    if (ColorInicio == 2) {
-        // A line for White with no move in it, so Black's first move takes Black's place.
-        MedioTurno = false;
-        NumeroJugada = 0;
-        ColOrigen = FilaOrigen = ColDestino = FilaDestino = 0;
-        PiezaCoronacion = 0;
-        EscribirJugada();
-    }
+    if (ColorInicio == 2) JugadaVaciaBlancas();
     if (!Conectado) Turno = static_cast<int16_t>(ColorInicio);
     if (Turno == 1) ColorJugador = "Blancas";
     if (Turno == 2) ColorJugador = "Negras";

@@ -20,6 +20,9 @@ void EscribirFen();
 // changed ColorInicio and the rook flags, as it always has.
 bool LeerFen(const std::string& linea);
 std::string FichaTexto(int32_t codigo);
+// A line for White with no move in it, so that Black's first move of a position takes Black's
+// place in the move list.
+void JugadaVaciaBlancas();
 // Opens PosicionFen as a new local (or network) game. Returns LeerFen's
 // answer, which the opening itself does not look at.
 bool AbrirEpd();

@@ -7,7 +7,6 @@
 #include "core/move_filter.h"
 #include "core/move_list.h"
 #include "core/move_sequence.h"
-#include "core/notation.h"
 #include "core/takeback.h"
 #include "files/fen.h"
 #include "files/pgn_scanner.h"
@@ -703,14 +702,7 @@ void SesionRed::Impl::Epd(const wire::Posicion& p) {
         Turno = static_cast<int16_t>(p.turno);
         relleno = p.turno == 2;
     }
-    if (relleno) {
-        // A line for White with no move in it, so Black's first move takes Black's place.
-        MedioTurno = false;
-        NumeroJugada = 0;
-        ColOrigen = FilaOrigen = ColDestino = FilaDestino = 0;
-        PiezaCoronacion = 0;
-        EscribirJugada();
-    }
+    if (relleno) JugadaVaciaBlancas();
     ColorJugador = p.negras ? "Negras" : "Blancas"; // the sender told its own colour
     LeerFen(p.fen);
     dibujo().RedibujarTablero();
