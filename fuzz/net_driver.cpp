@@ -77,20 +77,23 @@ public:
     int32_t Contador() override { return segundo * 1000; }
 };
 
-// A folder for the rating record, never the program's.
-void Carpeta() {
-    static bool hecha = false;
-    if (hecha) return;
-    hecha = true;
-    std::string p = (std::filesystem::temp_directory_path() / "qa-net-fuzz-XXXXXX").string();
-    if (!mkdtemp(p.data())) std::abort();
-    qa::FijarDirectorioDatos(p);
-}
+// A folder for the rating record, never the program's; removed when the run ends.
+struct Carpeta {
+    std::string ruta = (std::filesystem::temp_directory_path() / "qa-net-fuzz-XXXXXX").string();
+    Carpeta() {
+        if (!mkdtemp(ruta.data())) std::abort();
+        qa::FijarDirectorioDatos(ruta);
+    }
+    ~Carpeta() {
+        std::error_code e;
+        std::filesystem::remove_all(ruta, e);
+    }
+};
 
 } // namespace
 
 void EjecutarEntradaRed(const uint8_t* datos, size_t tam) {
-    Carpeta();
+    static Carpeta carpeta;
     static EntornoRegistro entorno;
     static qa::TemporizadorManual bomba, ping, ranking, sendQtr, retraso, relojB, relojN;
     InstalarRegistro(&entorno);
