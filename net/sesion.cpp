@@ -93,7 +93,7 @@ struct SesionRed::Impl {
     // tests after the box read the new one.
     std::string recibido;
     int32_t pingInicio = 0, pingContador = 0, pingDelta = 0, pingSegundos = 0;
-    int ultimoSegundoBlancas = -1, ultimoSegundoNegras = -1;
+    int ultimoSegundoBlancas = 0, ultimoSegundoNegras = 0;
     int cajas = 0; // boxes of ours open, one inside the other
 
     std::string M(int n) { return dialogos().Mensaje(n); }
