@@ -162,12 +162,14 @@ uint64_t CasillasCon(int32_t codigo) {
     return m;
 }
 
-// Per square (bit (column - 1) * 8 + (row - 1)): the knight's and king's
-// squares on the board as offsets into TableroCopia, and each ray's length.
+// Per square (bit (column - 1) * 8 + (row - 1)): the cells of TableroCopia
+// (column * 9 + row) along each ray, the knight's and king's squares and the
+// squares a pawn of each colour attacks it from; every list ends at cell 0,
+// which is off the board.
 struct Alrededor {
-    int8_t caballos, reyes;
-    int16_t caballo[8], rey[8];
-    int8_t rayo[8]; // north, south, west, east, then the diagonals in walker order
+    uint8_t rayo[8][8]; // north, south, west, east, then the diagonals in walker order
+    uint8_t caballo[9], rey[9];
+    uint8_t peon[2][3]; // white pawns one row below, black ones one row above
 };
 constexpr auto kAlrededor = [] {
     struct Tabla {
@@ -176,64 +178,91 @@ constexpr auto kAlrededor = [] {
     for (int c = 1; c <= 8; ++c)
         for (int f = 1; f <= 8; ++f) {
             Alrededor& a = t.a[(c - 1) * 8 + (f - 1)];
+            int caballos = 0, reyes = 0;
             for (int i = 0; i < 8; ++i) {
                 int cc = c + kCaballo[i].dc, ff = f + kCaballo[i].df;
-                if (Dentro(cc, ff)) a.caballo[a.caballos++] = int16_t(cc * 9 + ff);
+                if (Dentro(cc, ff)) a.caballo[caballos++] = uint8_t(cc * 9 + ff);
                 cc = c + kRey[i].dc, ff = f + kRey[i].df;
-                if (Dentro(cc, ff)) a.rey[a.reyes++] = int16_t(cc * 9 + ff);
+                if (Dentro(cc, ff)) a.rey[reyes++] = uint8_t(cc * 9 + ff);
                 const Paso& p = i < 4 ? kRectas[i] : kDiagonales[i - 4];
-                int n = 0;
-                while (Dentro(c + (n + 1) * p.dc, f + (n + 1) * p.df)) ++n;
-                a.rayo[i] = int8_t(n);
+                for (int n = 1; Dentro(c + n * p.dc, f + n * p.df); ++n)
+                    a.rayo[i][n - 1] = uint8_t((c + n * p.dc) * 9 + f + n * p.df);
+            }
+            for (int lado = 0; lado < 2; ++lado) {
+                int peones = 0;
+                const int ff = f + (lado == 0 ? -1 : 1);
+                for (int cc : {c - 1, c + 1})
+                    if (Dentro(cc, ff)) a.peon[lado][peones++] = uint8_t(cc * 9 + ff);
             }
         }
     return t;
 }();
+// A cell's bit in scan order: row outer, column inner.
+constexpr auto kBitCelda = [] {
+    struct Tabla {
+        uint8_t b[81];
+    } t{};
+    for (int c = 1; c <= 8; ++c)
+        for (int f = 1; f <= 8; ++f) t.b[c * 9 + f] = uint8_t((f - 1) * 8 + (c - 1));
+    return t;
+}();
 
-// The pieces of one colour whose walkers reach the square (column, row), as
-// bits in scan order (row outer, column inner): those that would hit a king
-// there, or mark it if it is empty. Looking out from the square finds the
-// same pieces as walking out from every piece: a ray ends at the first
-// square that holds anything but 0 or -1 from either side.
-uint64_t PiezasQueAlcanzan(int col, int fila, bool blancas) {
+// The pieces of one colour whose walkers reach the square s (bit (column - 1)
+// * 8 + (row - 1)), as bits in scan order: those that would hit a king there,
+// or mark it if it is empty. Looking out from the square finds the same
+// pieces as walking out from every piece: a ray ends at the first square that
+// holds anything but 0 or -1 from either side. With `unaBasta` it stops at
+// the first piece found.
+template <bool unaBasta> uint64_t PiezasQueAlcanzan(int s, bool blancas) {
     const int32_t base = blancas ? 0 : 6;
     const int32_t torre = base + TorreB, alfil = base + AlfilB, dama = base + DamaB;
     const int32_t caballo = base + CaballoB, rey = base + ReyB, peon = base + PeonB;
     const int32_t* tablero = kCeldas;
-    auto bit = [](int idx) { return uint64_t{1} << ((idx % 9 - 1) * 8 + (idx / 9 - 1)); };
-    const Alrededor& a = kAlrededor.a[(col - 1) * 8 + (fila - 1)];
-    const int k = col * 9 + fila;
+    const Alrededor& a = kAlrededor.a[s];
     uint64_t piezas = 0;
+    auto hallada = [&](uint8_t celda) { piezas |= uint64_t{1} << kBitCelda.b[celda]; };
+    for (const uint8_t* p = a.peon[blancas ? 0 : 1]; *p; ++p)
+        if (tablero[*p] == peon) {
+            if (unaBasta) return 1;
+            hallada(*p);
+        }
+    for (const uint8_t* p = a.caballo; *p; ++p)
+        if (tablero[*p] == caballo) {
+            if (unaBasta) return 1;
+            hallada(*p);
+        }
+    for (const uint8_t* p = a.rey; *p; ++p)
+        if (tablero[*p] == rey) {
+            if (unaBasta) return 1;
+            hallada(*p);
+        }
     for (int d = 0; d < 8; ++d) {
         const int32_t propia = d < 4 ? torre : alfil;
-        const int salto = Salto(d < 4 ? kRectas[d] : kDiagonales[d - 4]);
-        int q = k;
-        for (int n = a.rayo[d]; n > 0; --n) {
-            q += salto;
-            const int32_t v = tablero[q];
+        for (const uint8_t* p = a.rayo[d]; *p; ++p) {
+            const int32_t v = tablero[*p];
             if (!EsPieza(v)) continue;
-            if (v == propia || v == dama) piezas |= bit(q);
+            if (v == propia || v == dama) {
+                if (unaBasta) return 1;
+                hallada(*p);
+            }
             break;
         }
     }
-    for (int j = 0; j < a.caballos; ++j)
-        if (tablero[a.caballo[j]] == caballo) piezas |= bit(a.caballo[j]);
-    for (int j = 0; j < a.reyes; ++j)
-        if (tablero[a.rey[j]] == rey) piezas |= bit(a.rey[j]);
-    const int f = fila + (blancas ? -1 : 1); // where a pawn stands that reaches the square
-    for (int c : {col - 1, col + 1})
-        if (Dentro(c, f) && tablero[c * 9 + f] == peon) piezas |= bit(c * 9 + f);
     return piezas;
 }
 
 // The pieces of one colour that would hit any square holding `rey`.
 uint64_t PiezasQueAtacan(bool blancas, int32_t rey) {
     uint64_t piezas = 0;
-    for (uint64_t reyes = CasillasCon(rey); reyes; reyes &= reyes - 1) {
-        const int i = __builtin_ctzll(reyes);
-        piezas |= PiezasQueAlcanzan(i / 8 + 1, i % 8 + 1, blancas);
-    }
+    for (uint64_t reyes = CasillasCon(rey); reyes; reyes &= reyes - 1)
+        piezas |= PiezasQueAlcanzan<false>(__builtin_ctzll(reyes), blancas);
     return piezas;
+}
+// Whether any piece of one colour would hit a square holding `rey`.
+bool AlgunaAtaca(bool blancas, int32_t rey) {
+    for (uint64_t reyes = CasillasCon(rey); reyes; reyes &= reyes - 1)
+        if (PiezasQueAlcanzan<true>(__builtin_ctzll(reyes), blancas)) return true;
+    return false;
 }
 
 enum class Tras { Sigue, FinRayo, Sale };
@@ -380,10 +409,12 @@ void CapturaPeon(int col, int fila, int32_t codigo, int df, int filaAlPaso, int3
 }
 
 // Every non-king piece of a colour walks towards the target, rows outer.
-void MoverBando(bool blancas, int32_t objetivo, bool captura) {
+// With `hastaLibre` the walk ends at the first piece that clears Mate.
+void MoverBando(bool blancas, int32_t objetivo, bool captura, bool hastaLibre = false) {
     int32_t base = blancas ? 0 : 6;
     for (int f = 1; f <= 8; ++f)
         for (int c = 1; c <= 8; ++c) {
+            if (hastaLibre && !Mate) return;
             int32_t p = Copia(c, f) - base;
             switch (p) {
             case 1:
@@ -484,6 +515,7 @@ void CapturarDestino() {
 } // namespace
 
 std::string TextoCasilla(int col, int fila) {
+    if (col >= 0 && col <= 9 && fila >= 0 && fila <= 9) return {char('0' + col), char('0' + fila)};
     return std::to_string(col) + std::to_string(fila);
 }
 
@@ -538,8 +570,8 @@ void ProbarReyPropio() {
     }
     // Every caller copies the board again before it reads marks, so the map
     // is drawn only for a king that is attacked.
-    if (EsBlanca(FichaMovida) && PiezasQueAtacan(false, ReyB) == 0) return;
-    if (EsNegra(FichaMovida) && PiezasQueAtacan(true, ReyN) == 0) return;
+    if (EsBlanca(FichaMovida) && !AlgunaAtaca(false, ReyB)) return;
+    if (EsNegra(FichaMovida) && !AlgunaAtaca(true, ReyN)) return;
     ProbarAtaque();
 }
 
@@ -562,6 +594,10 @@ void BuscarAtacantes() {
 
 void ProbarJaque() {
     CopiarYJugar();
+    ProbarJaqueEnCopia();
+}
+
+void ProbarJaqueEnCopia() {
     Atacantes.clear();
     // What BuscarAtacantes would collect, without its marks: mate and
     // stalemate tests copy the board afresh.
@@ -584,7 +620,9 @@ void ProbarHuidaRey() {
     int32_t rey = moverBlanco ? ReyN : ReyB;
     int32_t primero = moverBlanco ? 1 : 7; // the mover's codes, which the king may take
     const uint64_t reyes = CasillasCon(rey);
-    if (reyes && (reyes & (reyes - 1)) == 0) {
+    // With one king on the board, each trial's only king stands on the square tried.
+    const bool solo = reyes && (reyes & (reyes - 1)) == 0;
+    if (solo) {
         const int i = __builtin_ctzll(reyes);
         ReyCol = i / 8 + 1;
         ReyFila = i % 8 + 1;
@@ -614,7 +652,9 @@ void ProbarHuidaRey() {
             Ataque = false;
             // A square the king keeps ends the test, and the tests after it
             // copy the board again: the map is drawn only for an attacked square.
-            if (PiezasQueAtacan(moverBlanco, rey) != 0) EscanearAtaque(moverBlanco);
+            const bool atacada = solo ? PiezasQueAlcanzan<true>((c - 1) * 8 + (f - 1), moverBlanco)
+                                      : AlgunaAtaca(moverBlanco, rey);
+            if (atacada) EscanearAtaque(moverBlanco);
             if (!Ataque) {
                 Jaque = true;
                 Mate = false;
@@ -740,6 +780,10 @@ void BuscarCaptura() {
 
 void ProbarMate() {
     CopiarYJugar();
+    ProbarMateEnCopia();
+}
+
+void ProbarMateEnCopia() {
     ProbarHuidaRey();
     if (!Mate) return;
     Ataque = false;
@@ -759,6 +803,10 @@ void ProbarMate() {
 
 void ProbarAhogado() {
     CopiarYJugar();
+    ProbarAhogadoEnCopia();
+}
+
+void ProbarAhogadoEnCopia() {
     Ataque = false;
     Mate = true;
     ProbarHuidaRey();
@@ -767,10 +815,12 @@ void ProbarAhogado() {
         return;
     }
     CopiarYJugar();
+    // Mate only goes from true to false here, and the marks left behind are
+    // never read: the first piece that can move settles it.
     if (EsBlanca(FichaMovida))
-        MoverNegras(0);
+        MoverBando(false, 0, false, true);
     else if (EsNegra(FichaMovida))
-        MoverBlancas(0);
+        MoverBando(true, 0, false, true);
     if (Mate) Ahogado = true;
     Ataque = Jaque = Mate = false;
 }

@@ -13,6 +13,11 @@ void ProbarReyPropio();
 void ProbarJaque();
 void ProbarMate();
 void ProbarAhogado();
+// The same three on a TableroCopia that holds the move already and no marks,
+// as ProbarReyPropio leaves it when the move stands.
+void ProbarJaqueEnCopia();
+void ProbarMateEnCopia();
+void ProbarAhogadoEnCopia();
 
 void ProbarAtaque();
 void BuscarAtacantes();

@@ -68,13 +68,17 @@ void ReglaPeon(bool blanco) {
 // opponent. False when the move is refused.
 bool ReyPropioYVeredicto() {
     Ataque = false;
+    const bool conJugada = MovimientoValido; // then the copy holds the move, as the verdict's
     ProbarReyPropio();
     if (Ataque) {
         MovimientoValido = false;
         Ataque = false;
         return false;
     }
-    VeredictoRival();
+    if (conJugada)
+        VeredictoEnCopia();
+    else
+        VeredictoRival();
     return true;
 }
 
@@ -317,15 +321,21 @@ void ReglasPieza() {
 }
 
 void VeredictoRival() {
+    CopiarYJugar();
+    VeredictoEnCopia();
+}
+
+void VeredictoEnCopia() {
     Jaque = false;
     Ataque = false;
-    ProbarJaque();
+    // The check test only reads the copy, so the next test finds it as drawn.
+    ProbarJaqueEnCopia();
     if (Jaque) {
         Mate = true;
-        ProbarMate();
+        ProbarMateEnCopia();
     } else {
         Ahogado = false;
-        ProbarAhogado();
+        ProbarAhogadoEnCopia();
     }
 }
 
