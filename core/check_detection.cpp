@@ -47,8 +47,68 @@ inline int Salto(const Paso& p) {
     return p.dc * 9 + p.df;
 }
 
+// Per square (bit (column - 1) * 8 + (row - 1)): the cells of TableroCopia
+// (column * 9 + row) along each ray, the knight's and king's squares and the
+// squares a pawn of each colour attacks it from; every list ends at cell 0,
+// which is off the board.
+struct Alrededor {
+    uint8_t rayo[8][8]; // north, south, west, east, then the diagonals in walker order
+    uint8_t caballo[9], rey[9];
+    uint8_t peon[2][3]; // white pawns one row below, black ones one row above
+};
+constexpr auto kAlrededor = [] {
+    struct Tabla {
+        Alrededor a[64];
+    } t{};
+    for (int c = 1; c <= 8; ++c)
+        for (int f = 1; f <= 8; ++f) {
+            Alrededor& a = t.a[(c - 1) * 8 + (f - 1)];
+            int caballos = 0, reyes = 0;
+            for (int i = 0; i < 8; ++i) {
+                int cc = c + kCaballo[i].dc, ff = f + kCaballo[i].df;
+                if (Dentro(cc, ff)) a.caballo[caballos++] = uint8_t(cc * 9 + ff);
+                cc = c + kRey[i].dc, ff = f + kRey[i].df;
+                if (Dentro(cc, ff)) a.rey[reyes++] = uint8_t(cc * 9 + ff);
+                const Paso& p = i < 4 ? kRectas[i] : kDiagonales[i - 4];
+                for (int n = 1; Dentro(c + n * p.dc, f + n * p.df); ++n)
+                    a.rayo[i][n - 1] = uint8_t((c + n * p.dc) * 9 + f + n * p.df);
+            }
+            for (int lado = 0; lado < 2; ++lado) {
+                int peones = 0;
+                const int ff = f + (lado == 0 ? -1 : 1);
+                for (int cc : {c - 1, c + 1})
+                    if (Dentro(cc, ff)) a.peon[lado][peones++] = uint8_t(cc * 9 + ff);
+            }
+        }
+    return t;
+}();
+// A cell's bit in scan order: row outer, column inner.
+constexpr auto kBitCelda = [] {
+    struct Tabla {
+        uint8_t b[81];
+    } t{};
+    for (int c = 1; c <= 8; ++c)
+        for (int f = 1; f <= 8; ++f) t.b[c * 9 + f] = uint8_t((f - 1) * 8 + (c - 1));
+    return t;
+}();
+
 // Walks rays from a piece, marking touched empty squares, until the king sought or a piece.
 void AtaqueRayos(int col, int fila, int32_t rey, const Paso* pasos, int n) {
+    if (Dentro(col, fila)) {
+        const Alrededor& a = kAlrededor.a[(col - 1) * 8 + (fila - 1)];
+        const int primero = pasos == kRectas ? 0 : 4;
+        for (int i = 0; i < n; ++i)
+            for (const uint8_t* p = a.rayo[primero + i]; *p; ++p) {
+                const int32_t v = kCeldas[*p];
+                if (v == rey) {
+                    Ataque = true;
+                    break;
+                }
+                if (EsPieza(v)) break;
+                kCeldas[*p] = -1;
+            }
+        return;
+    }
     for (int i = 0; i < n; ++i) {
         const int salto = Salto(pasos[i]);
         for (int k = PasosHastaBorde(col, fila, pasos[i]), q = col * 9 + fila; k > 0; --k) {
@@ -161,51 +221,6 @@ uint64_t CasillasCon(int32_t codigo) {
 #endif
     return m;
 }
-
-// Per square (bit (column - 1) * 8 + (row - 1)): the cells of TableroCopia
-// (column * 9 + row) along each ray, the knight's and king's squares and the
-// squares a pawn of each colour attacks it from; every list ends at cell 0,
-// which is off the board.
-struct Alrededor {
-    uint8_t rayo[8][8]; // north, south, west, east, then the diagonals in walker order
-    uint8_t caballo[9], rey[9];
-    uint8_t peon[2][3]; // white pawns one row below, black ones one row above
-};
-constexpr auto kAlrededor = [] {
-    struct Tabla {
-        Alrededor a[64];
-    } t{};
-    for (int c = 1; c <= 8; ++c)
-        for (int f = 1; f <= 8; ++f) {
-            Alrededor& a = t.a[(c - 1) * 8 + (f - 1)];
-            int caballos = 0, reyes = 0;
-            for (int i = 0; i < 8; ++i) {
-                int cc = c + kCaballo[i].dc, ff = f + kCaballo[i].df;
-                if (Dentro(cc, ff)) a.caballo[caballos++] = uint8_t(cc * 9 + ff);
-                cc = c + kRey[i].dc, ff = f + kRey[i].df;
-                if (Dentro(cc, ff)) a.rey[reyes++] = uint8_t(cc * 9 + ff);
-                const Paso& p = i < 4 ? kRectas[i] : kDiagonales[i - 4];
-                for (int n = 1; Dentro(c + n * p.dc, f + n * p.df); ++n)
-                    a.rayo[i][n - 1] = uint8_t((c + n * p.dc) * 9 + f + n * p.df);
-            }
-            for (int lado = 0; lado < 2; ++lado) {
-                int peones = 0;
-                const int ff = f + (lado == 0 ? -1 : 1);
-                for (int cc : {c - 1, c + 1})
-                    if (Dentro(cc, ff)) a.peon[lado][peones++] = uint8_t(cc * 9 + ff);
-            }
-        }
-    return t;
-}();
-// A cell's bit in scan order: row outer, column inner.
-constexpr auto kBitCelda = [] {
-    struct Tabla {
-        uint8_t b[81];
-    } t{};
-    for (int c = 1; c <= 8; ++c)
-        for (int f = 1; f <= 8; ++f) t.b[c * 9 + f] = uint8_t((f - 1) * 8 + (c - 1));
-    return t;
-}();
 
 // The pieces of one colour whose walkers reach the square s (bit (column - 1)
 // * 8 + (row - 1)), as bits in scan order: those that would hit a king there,
@@ -335,6 +350,24 @@ Tras Alcanzado(int pc, int pf, int c, int f, int32_t objetivo, Clase clase, bool
 }
 
 void AlcanceRayos(int col, int fila, int32_t objetivo, const Paso* pasos, int n, Clase clase) {
+    if (Dentro(col, fila)) {
+        const Alrededor& a = kAlrededor.a[(col - 1) * 8 + (fila - 1)];
+        const int primero = pasos == kRectas ? 0 : 4;
+        for (int i = 0; i < n; ++i) {
+            const bool oeste = clase == Clase::Recta && i == 2;
+            for (const uint8_t* p = a.rayo[primero + i]; *p; ++p) {
+                const int32_t v = kCeldas[*p];
+                if (v == objetivo) {
+                    Tras t = Alcanzado(col, fila, *p / 9, *p % 9, objetivo, clase, oeste);
+                    if (t == Tras::Sale) return;
+                    if (t == Tras::FinRayo) break;
+                    continue;
+                }
+                if (EsPieza(v)) break;
+            }
+        }
+        return;
+    }
     for (int i = 0; i < n; ++i) {
         const bool oeste = clase == Clase::Recta && i == 2;
         const int salto = Salto(pasos[i]);
@@ -638,27 +671,36 @@ void ProbarHuidaRey() {
     if (ReyCol < 0 || ReyCol > 8 || ReyFila < 0 || ReyFila > 8) return;
     constexpr Paso vecinos[8] = {{0, -1}, {-1, -1}, {-1, 0}, {-1, 1},
                                  {0, 1},  {1, 1},   {1, 0},  {1, -1}};
-    for (const Paso& p : vecinos) {
-        int c = ReyCol + p.dc, f = ReyFila + p.df;
+    // The map a failed trial draws marks every empty square the mover reaches,
+    // and a marked neighbour is not tried. Both callers copy the board again
+    // afterwards, so of each map only its marks on the neighbours still to be
+    // tried count: they are kept here, and the map is not drawn.
+    unsigned marcadas = 0;
+    for (int i = 0; i < 8; ++i) {
+        const int c = ReyCol + vecinos[i].dc, f = ReyFila + vecinos[i].df;
         if (!Dentro(c, f)) continue;
         // An empty square passes the test for each of the six codes, but a
         // failed trial leaves the board as it found it apart from marks, which
         // read as empty: the repeats would find the same, so it is tried once.
         const int32_t v = Copia(c, f);
-        if (v == 0 || (v >= primero && v < primero + 6)) {
+        if ((v == 0 && !(marcadas >> i & 1u)) || (v >= primero && v < primero + 6)) {
             Copia(ReyCol, ReyFila) = 0;
             FichaGuardada = Copia(c, f);
             Copia(c, f) = rey;
             Ataque = false;
-            // A square the king keeps ends the test, and the tests after it
-            // copy the board again: the map is drawn only for an attacked square.
             const bool atacada = solo ? PiezasQueAlcanzan<true>((c - 1) * 8 + (f - 1), moverBlanco)
                                       : AlgunaAtaca(moverBlanco, rey);
-            if (atacada) EscanearAtaque(moverBlanco);
-            if (!Ataque) {
+            if (!atacada) {
                 Jaque = true;
                 Mate = false;
                 return;
+            }
+            Ataque = true;
+            for (int j = i + 1; j < 8; ++j) {
+                const int cj = ReyCol + vecinos[j].dc, fj = ReyFila + vecinos[j].df;
+                if (Dentro(cj, fj) && Copia(cj, fj) == 0 &&
+                    PiezasQueAlcanzan<true>((cj - 1) * 8 + (fj - 1), moverBlanco))
+                    marcadas |= 1u << j;
             }
             Copia(ReyCol, ReyFila) = rey;
             Copia(c, f) = FichaGuardada;
