@@ -19,8 +19,13 @@ ListaTextos::ListaTextos(std::initializer_list<std::string_view> textos) {
 
 void ListaTextos::clear() {
     cursorI_ = cursorPos_ = 0;
-    std::string().swap(datos_);
-    std::vector<uint64_t>().swap(marcas_);
+    if (datos_.capacity() <= kGuardado) {
+        datos_.clear();
+        marcas_.clear();
+    } else {
+        std::string().swap(datos_);
+        std::vector<uint64_t>().swap(marcas_);
+    }
     n_ = 0;
     ultima_ = 0;
 }
@@ -37,12 +42,15 @@ void ListaTextos::swap(ListaTextos& o) noexcept {
 void ListaTextos::push_back(std::string_view texto) {
     if (n_ % kPaso == 0) marcas_.push_back(datos_.size());
     ultima_ = datos_.size();
+    char cabeza[10];
+    size_t n = 0;
     size_t largo = texto.size();
     do {
         const auto b = static_cast<unsigned char>(largo & 0x7F);
         largo >>= 7;
-        datos_ += static_cast<char>(largo ? b | 0x80 : b);
+        cabeza[n++] = static_cast<char>(largo ? b | 0x80 : b);
     } while (largo);
+    datos_.append(cabeza, n);
     datos_.append(texto);
     ++n_;
 }
@@ -63,6 +71,10 @@ void ListaTextos::pop_back() {
 }
 
 std::string ListaTextos::operator[](size_t i) const {
+    return std::string(Ver(i));
+}
+
+std::string_view ListaTextos::Ver(size_t i) const {
     if (i >= n_) return {};
     size_t k = i / kPaso * kPaso;
     size_t pos = marcas_[i / kPaso];
@@ -73,7 +85,7 @@ std::string ListaTextos::operator[](size_t i) const {
     for (; k < i; ++k) pos = Siguiente(pos);
     cursorI_ = i;
     cursorPos_ = pos;
-    return std::string(En(pos));
+    return En(pos);
 }
 
 std::string_view ListaTextos::En(size_t pos) const {

@@ -60,6 +60,8 @@ public:
     void swap(ListaTextos& o) noexcept;
     void pop_back();
     std::string operator[](size_t i) const;
+    // Entry i in place, valid until the list next changes; empty past the end.
+    std::string_view Ver(size_t i) const;
     std::string front() const { return (*this)[0]; }
     std::string back() const { return n_ ? std::string(En(ultima_)) : std::string(); }
     const_iterator begin() const { return {this, 0}; }
@@ -76,6 +78,9 @@ public:
 private:
     // Every kPaso-th entry's offset is noted, so entry i is at most kPaso - 1 hops away.
     static constexpr size_t kPaso = 32;
+    // A list emptied keeps a buffer up to this size for the next one: games are refilled
+    // move by move many times over, and a huge one still gives its memory back.
+    static constexpr size_t kGuardado = 64 << 10;
     std::string_view En(size_t pos) const;
     size_t Siguiente(size_t pos) const;
 

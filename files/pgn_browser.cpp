@@ -93,12 +93,14 @@ void CargarPartidaPgn() {
     } else {
         LeerMovimientosPgn(FicheroPgn);
         const auto& filas = ListaPgn::PgnMovimientos;
+        // Copies, reused from row to row: a message box may let the list change under them.
+        std::string blancas, negras;
         for (size_t i = 0; i < filas.size(); i += 2) {
-            const std::string& b = filas[i];
+            const std::string_view b = filas.Ver(i);
             const size_t blanco = b.find(' ');
-            const std::string blancas = blanco == std::string::npos ? b : b.substr(blanco + 1);
-            const std::string negras =
-                i + 1 < filas.size() && filas[i + 1].size() > 18 ? filas[i + 1].substr(18) : "";
+            blancas.assign(blanco == std::string_view::npos ? b : b.substr(blanco + 1));
+            const std::string_view n = i + 1 < filas.size() ? filas.Ver(i + 1) : std::string_view();
+            negras.assign(n.size() > 18 ? n.substr(18) : std::string_view());
             if (blancas.empty()) continue;
             FallaPgn = false;
             ComFicha(blancas, 1);

@@ -8,6 +8,8 @@
 #include "files/line_reader.h"
 #include "files/pgn_text.h"
 
+#include <algorithm>
+#include <charconv>
 #include <deque>
 #include <optional>
 
@@ -305,6 +307,19 @@ void ListarMovimientosPgn(std::string texto) {
 }
 
 int TipoTokenPgn(std::string_view token) {
+    // Most tokens are plain moves: with none of the characters the tests below
+    // look for, and not starting as a number might, each of them fails.
+    static constexpr auto kSenal = [] {
+        struct Tabla {
+            bool s[256];
+        } t{};
+        for (unsigned char c : std::string_view(".$-*[ ")) t.s[c] = true;
+        return t;
+    }();
+    if (!token.empty() && !(token[0] >= '0' && token[0] <= '9') && token[0] != '+' &&
+        std::none_of(token.begin(), token.end(),
+                     [](char c) { return kSenal.s[static_cast<unsigned char>(c)]; }))
+        return 3;
     if (token.empty() || token.find("...") != std::string_view::npos) return 0;
     if (RecortarBlancos(token) == "[!]") return 1;
     const size_t punto = token.find('.');
@@ -319,9 +334,17 @@ int TipoTokenPgn(std::string_view token) {
 
 void AgregarJugadaPgn(int64_t numero, bool blancas, std::string_view texto) {
     if (numero == 0) return;
-    std::string fila = blancas ? std::to_string(numero) + ". " : std::string(18, ' ');
+    static std::string fila; // one buffer for every row
+    if (blancas) {
+        char cifras[24];
+        const auto r = std::to_chars(cifras, cifras + sizeof cifras, numero);
+        fila.assign(cifras, r.ptr);
+        fila += ". ";
+    } else {
+        fila.assign(18, ' ');
+    }
     fila.append(texto);
-    ListaPgn::PgnMovimientos.push_back(std::move(fila));
+    ListaPgn::PgnMovimientos.push_back(fila);
     ListaPgn::PgnMovimientosIndice = static_cast<int32_t>(ListaPgn::PgnMovimientos.size()) - 1;
 }
 
