@@ -181,8 +181,10 @@ void EscribirJugada() {
     Notacion.clear();
     TextoAlgebraico();
     if (mostrar) Jugadas::AnotarLista(Notacion, 3);
-    TraducirNotacion(Notacion, LetrasEspanol);
-    if (mostrar) Jugadas::AnotarLista(NotacionTraducida, 2);
+    if (mostrar) { // otherwise the user's letters below overwrite it unseen
+        TraducirNotacion(Notacion, LetrasEspanol);
+        Jugadas::AnotarLista(NotacionTraducida, 2);
+    }
     TraducirNotacion(Notacion, LetrasUsuario);
     if (mostrar) Jugadas::AnotarLista(NotacionTraducida, 5);
 
