@@ -2,6 +2,8 @@
 
 #include "core/game_state.h"
 
+#include <cstring>
+
 #ifdef __SSE2__
 #include <emmintrin.h>
 #endif
@@ -48,47 +50,22 @@ inline int Salto(const Paso& p) {
 }
 
 // Per square (bit (column - 1) * 8 + (row - 1)): the cells of TableroCopia
-// (column * 9 + row) along each ray, the knight's and king's squares and the
-// squares a pawn of each colour attacks it from; every list ends at cell 0,
-// which is off the board.
+// (column * 9 + row) along each ray, ending at cell 0, which is off the board.
 struct Alrededor {
     uint8_t rayo[8][8]; // north, south, west, east, then the diagonals in walker order
-    uint8_t caballo[9], rey[9];
-    uint8_t peon[2][3]; // white pawns one row below, black ones one row above
 };
 constexpr auto kAlrededor = [] {
     struct Tabla {
         Alrededor a[64];
     } t{};
     for (int c = 1; c <= 8; ++c)
-        for (int f = 1; f <= 8; ++f) {
-            Alrededor& a = t.a[(c - 1) * 8 + (f - 1)];
-            int caballos = 0, reyes = 0;
+        for (int f = 1; f <= 8; ++f)
             for (int i = 0; i < 8; ++i) {
-                int cc = c + kCaballo[i].dc, ff = f + kCaballo[i].df;
-                if (Dentro(cc, ff)) a.caballo[caballos++] = uint8_t(cc * 9 + ff);
-                cc = c + kRey[i].dc, ff = f + kRey[i].df;
-                if (Dentro(cc, ff)) a.rey[reyes++] = uint8_t(cc * 9 + ff);
                 const Paso& p = i < 4 ? kRectas[i] : kDiagonales[i - 4];
                 for (int n = 1; Dentro(c + n * p.dc, f + n * p.df); ++n)
-                    a.rayo[i][n - 1] = uint8_t((c + n * p.dc) * 9 + f + n * p.df);
+                    t.a[(c - 1) * 8 + (f - 1)].rayo[i][n - 1] =
+                        uint8_t((c + n * p.dc) * 9 + f + n * p.df);
             }
-            for (int lado = 0; lado < 2; ++lado) {
-                int peones = 0;
-                const int ff = f + (lado == 0 ? -1 : 1);
-                for (int cc : {c - 1, c + 1})
-                    if (Dentro(cc, ff)) a.peon[lado][peones++] = uint8_t(cc * 9 + ff);
-            }
-        }
-    return t;
-}();
-// A cell's bit in scan order: row outer, column inner.
-constexpr auto kBitCelda = [] {
-    struct Tabla {
-        uint8_t b[81];
-    } t{};
-    for (int c = 1; c <= 8; ++c)
-        for (int f = 1; f <= 8; ++f) t.b[c * 9 + f] = uint8_t((f - 1) * 8 + (c - 1));
     return t;
 }();
 
@@ -200,84 +177,139 @@ void EscanearAtaque(bool blancas) {
         }
 }
 
-// The squares of TableroCopia that hold `codigo`, bit (column - 1) * 8 + (row - 1).
-uint64_t CasillasCon(int32_t codigo) {
-    uint64_t m = 0;
+// Sets of squares, bit (column - 1) * 8 + (row - 1).
+constexpr uint64_t Bit(int c, int f) {
+    return uint64_t{1} << ((c - 1) * 8 + (f - 1));
+}
+// Per square: the squares along each ray (in Alrededor's order), the knight's
+// and king's squares, and where a white (0) or black (1) pawn takes it from.
+struct Alcances {
+    uint64_t rayo[64][8];
+    uint64_t caballo[64], rey[64];
+    uint64_t peon[2][64];
+};
+constexpr auto kAlcances = [] {
+    Alcances t{};
+    for (int c = 1; c <= 8; ++c)
+        for (int f = 1; f <= 8; ++f) {
+            const int s = (c - 1) * 8 + (f - 1);
+            for (int i = 0; i < 8; ++i) {
+                if (Dentro(c + kCaballo[i].dc, f + kCaballo[i].df))
+                    t.caballo[s] |= Bit(c + kCaballo[i].dc, f + kCaballo[i].df);
+                if (Dentro(c + kRey[i].dc, f + kRey[i].df))
+                    t.rey[s] |= Bit(c + kRey[i].dc, f + kRey[i].df);
+                const Paso& p = i < 4 ? kRectas[i] : kDiagonales[i - 4];
+                for (int n = 1; Dentro(c + n * p.dc, f + n * p.df); ++n)
+                    t.rayo[s][i] |= Bit(c + n * p.dc, f + n * p.df);
+            }
+            for (int cc : {c - 1, c + 1}) {
+                if (Dentro(cc, f - 1)) t.peon[0][s] |= Bit(cc, f - 1);
+                if (Dentro(cc, f + 1)) t.peon[1][s] |= Bit(cc, f + 1);
+            }
+        }
+    return t;
+}();
+
+// TableroCopia as sets of squares, one per value: the copy narrowed to a
+// byte a square, saturated, which keeps apart every value that decides
+// anything. The sets follow the copy square by square: from one test to the
+// next only a few squares change.
+struct Mapa {
+    alignas(16) int8_t bytes[64]; // (column - 1) * 8 + (row - 1)
+    uint64_t con[15];             // value v at index v + 1 for -1 to 12; the rest at 14
+};
+Mapa mapa;
+bool mapaTomado = false;
+
+inline int Indice(int8_t v) {
+    return v >= -1 && v <= 12 ? v + 1 : 14;
+}
+
+const Mapa& MapaDeLaCopia() {
+    alignas(16) int8_t nuevo[64];
+    uint64_t cambiadas = ~uint64_t{0};
 #ifdef __SSE2__
-    const __m128i buscado = _mm_set1_epi32(codigo);
-    for (int c = 1; c <= 8; ++c) {
-        const int32_t* p = &TableroCopia[c][1];
-        const __m128i a =
-            _mm_cmpeq_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p)), buscado);
-        const __m128i b =
-            _mm_cmpeq_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p + 4)), buscado);
-        const __m128i x = _mm_packs_epi16(_mm_packs_epi32(a, b), _mm_setzero_si128());
-        m |= uint64_t(unsigned(_mm_movemask_epi8(x)) & 0xFFu) << ((c - 1) * 8);
+    auto columna = [](int c) {
+        const auto* p = reinterpret_cast<const __m128i*>(&TableroCopia[c][1]);
+        return _mm_packs_epi32(_mm_loadu_si128(p), _mm_loadu_si128(p + 1));
+    };
+    if (mapaTomado) cambiadas = 0;
+    for (int k = 0; k < 4; ++k) {
+        const __m128i b = _mm_packs_epi16(columna(2 * k + 1), columna(2 * k + 2));
+        _mm_store_si128(reinterpret_cast<__m128i*>(nuevo) + k, b);
+        if (!mapaTomado) continue;
+        const __m128i viejo = _mm_load_si128(reinterpret_cast<const __m128i*>(mapa.bytes) + k);
+        cambiadas |= uint64_t(~unsigned(_mm_movemask_epi8(_mm_cmpeq_epi8(b, viejo))) & 0xFFFFu)
+                     << (16 * k);
     }
 #else
+    if (mapaTomado) cambiadas = 0;
     for (int c = 1; c <= 8; ++c)
-        for (int f = 1; f <= 8; ++f)
-            if (TableroCopia[c][f] == codigo) m |= uint64_t{1} << ((c - 1) * 8 + (f - 1));
+        for (int f = 1; f <= 8; ++f) {
+            const int32_t v = TableroCopia[c][f];
+            const int i = (c - 1) * 8 + (f - 1);
+            nuevo[i] = int8_t(v < -128 ? -128 : v > 127 ? 127 : v);
+            if (mapaTomado && nuevo[i] != mapa.bytes[i]) cambiadas |= uint64_t{1} << i;
+        }
 #endif
-    return m;
-}
-
-// The pieces of one colour whose walkers reach the square s (bit (column - 1)
-// * 8 + (row - 1)), as bits in scan order: those that would hit a king there,
-// or mark it if it is empty. Looking out from the square finds the same
-// pieces as walking out from every piece: a ray ends at the first square that
-// holds anything but 0 or -1 from either side. With `unaBasta` it stops at
-// the first piece found.
-template <bool unaBasta> uint64_t PiezasQueAlcanzan(int s, bool blancas) {
-    const int32_t base = blancas ? 0 : 6;
-    const int32_t torre = base + TorreB, alfil = base + AlfilB, dama = base + DamaB;
-    const int32_t caballo = base + CaballoB, rey = base + ReyB, peon = base + PeonB;
-    const int32_t* tablero = kCeldas;
-    const Alrededor& a = kAlrededor.a[s];
-    uint64_t piezas = 0;
-    auto hallada = [&](uint8_t celda) { piezas |= uint64_t{1} << kBitCelda.b[celda]; };
-    for (const uint8_t* p = a.peon[blancas ? 0 : 1]; *p; ++p)
-        if (tablero[*p] == peon) {
-            if (unaBasta) return 1;
-            hallada(*p);
-        }
-    for (const uint8_t* p = a.caballo; *p; ++p)
-        if (tablero[*p] == caballo) {
-            if (unaBasta) return 1;
-            hallada(*p);
-        }
-    for (const uint8_t* p = a.rey; *p; ++p)
-        if (tablero[*p] == rey) {
-            if (unaBasta) return 1;
-            hallada(*p);
-        }
-    for (int d = 0; d < 8; ++d) {
-        const int32_t propia = d < 4 ? torre : alfil;
-        for (const uint8_t* p = a.rayo[d]; *p; ++p) {
-            const int32_t v = tablero[*p];
-            if (!EsPieza(v)) continue;
-            if (v == propia || v == dama) {
-                if (unaBasta) return 1;
-                hallada(*p);
-            }
-            break;
+    if (!mapaTomado) {
+        for (uint64_t& m : mapa.con) m = 0;
+        for (int i = 0; i < 64; ++i) mapa.con[Indice(nuevo[i])] |= uint64_t{1} << i;
+        mapaTomado = true;
+    } else {
+        for (; cambiadas; cambiadas &= cambiadas - 1) {
+            const int i = __builtin_ctzll(cambiadas);
+            mapa.con[Indice(mapa.bytes[i])] &= ~(uint64_t{1} << i);
+            mapa.con[Indice(nuevo[i])] |= uint64_t{1} << i;
         }
     }
-    return piezas;
+    std::memcpy(mapa.bytes, nuevo, sizeof nuevo);
+    return mapa;
 }
 
-// The pieces of one colour that would hit any square holding `rey`.
-uint64_t PiezasQueAtacan(bool blancas, int32_t rey) {
-    uint64_t piezas = 0;
-    for (uint64_t reyes = CasillasCon(rey); reyes; reyes &= reyes - 1)
-        piezas |= PiezasQueAlcanzan<false>(__builtin_ctzll(reyes), blancas);
-    return piezas;
+// The pieces of one colour whose walkers reach square s: those that would
+// hit a king there, or mark it if it is empty. `piezas` are the squares that
+// stop a ray, and the pieces on `fuera` take no part. Looking out from the
+// square finds the same pieces as walking out from every piece: a ray ends at
+// the first square that holds anything but 0 or -1 from either side.
+uint64_t Alcanzan(const Mapa& m, int s, bool blancas, uint64_t piezas, uint64_t fuera = 0) {
+    const uint64_t* con = m.con + (blancas ? PeonB : PeonN) + 1; // from the colour's pawn
+    const uint64_t dama = con[DamaB - 1];
+    const uint64_t* rayo = kAlcances.rayo[s];
+    // The nearest square of a ray: its lowest set bit towards higher bits,
+    // its highest towards lower ones; nothing for an empty ray.
+    auto bajo = [&](int d) {
+        const uint64_t t = rayo[d] & piezas;
+        return t & (0 - t);
+    };
+    auto alto = [&](int d) {
+        const uint64_t t = rayo[d] & piezas;
+        return (uint64_t{1} << (63 - __builtin_clzll(t | 1))) & t;
+    };
+    const uint64_t rectas = bajo(0) | alto(1) | alto(2) | bajo(3);
+    const uint64_t diagonales = bajo(4) | bajo(5) | alto(6) | alto(7);
+    return ((kAlcances.peon[blancas ? 0 : 1][s] & con[PeonB - 1]) |
+            (kAlcances.caballo[s] & con[CaballoB - 1]) | (kAlcances.rey[s] & con[ReyB - 1]) |
+            (rectas & (con[TorreB - 1] | dama)) | (diagonales & (con[AlfilB - 1] | dama))) &
+           ~fuera;
 }
-// Whether any piece of one colour would hit a square holding `rey`.
-bool AlgunaAtaca(bool blancas, int32_t rey) {
-    for (uint64_t reyes = CasillasCon(rey); reyes; reyes &= reyes - 1)
-        if (PiezasQueAlcanzan<true>(__builtin_ctzll(reyes), blancas)) return true;
-    return false;
+
+// The squares of TableroCopia that hold `rey`, a king's code.
+uint64_t Reyes(const Mapa& m, int32_t rey) {
+    return m.con[rey + 1];
+}
+// The squares that stop a ray.
+uint64_t Piezas(const Mapa& m) {
+    return ~(m.con[0] | m.con[1]);
+}
+
+// The pieces of one colour that would hit any square of TableroCopia holding `rey`.
+uint64_t PiezasQueAtacan(bool blancas, int32_t rey) {
+    const Mapa& m = MapaDeLaCopia();
+    uint64_t piezas = 0;
+    for (uint64_t reyes = Reyes(m, rey); reyes; reyes &= reyes - 1)
+        piezas |= Alcanzan(m, __builtin_ctzll(reyes), blancas, Piezas(m));
+    return piezas;
 }
 
 enum class Tras { Sigue, FinRayo, Sale };
@@ -603,8 +635,8 @@ void ProbarReyPropio() {
     }
     // Every caller copies the board again before it reads marks, so the map
     // is drawn only for a king that is attacked.
-    if (EsBlanca(FichaMovida) && !AlgunaAtaca(false, ReyB)) return;
-    if (EsNegra(FichaMovida) && !AlgunaAtaca(true, ReyN)) return;
+    if (EsBlanca(FichaMovida) && PiezasQueAtacan(false, ReyB) == 0) return;
+    if (EsNegra(FichaMovida) && PiezasQueAtacan(true, ReyN) == 0) return;
     ProbarAtaque();
 }
 
@@ -636,9 +668,14 @@ void ProbarJaqueEnCopia() {
     // stalemate tests copy the board afresh.
     if (EsBlanca(FichaMovida) || EsNegra(FichaMovida)) {
         const bool blancas = EsBlanca(FichaMovida);
-        for (uint64_t piezas = PiezasQueAtacan(blancas, blancas ? ReyN : ReyB); piezas;
-             piezas &= piezas - 1) {
-            const int i = __builtin_ctzll(piezas);
+        // In scan order: rows outer, columns inner.
+        uint64_t enOrden = 0;
+        for (uint64_t p = PiezasQueAtacan(blancas, blancas ? ReyN : ReyB); p; p &= p - 1) {
+            const int i = __builtin_ctzll(p);
+            enOrden |= uint64_t{1} << (i % 8 * 8 + i / 8);
+        }
+        for (; enOrden; enOrden &= enOrden - 1) {
+            const int i = __builtin_ctzll(enOrden);
             Atacantes += char('1' + i % 8);
             Atacantes += char('1' + i / 8);
         }
@@ -652,7 +689,8 @@ void ProbarHuidaRey() {
     if (!moverBlanco && !EsNegra(FichaMovida)) return;
     int32_t rey = moverBlanco ? ReyN : ReyB;
     int32_t primero = moverBlanco ? 1 : 7; // the mover's codes, which the king may take
-    const uint64_t reyes = CasillasCon(rey);
+    const Mapa& m = MapaDeLaCopia();
+    const uint64_t reyes = Reyes(m, rey);
     // With one king on the board, each trial's only king stands on the square tried.
     const bool solo = reyes && (reyes & (reyes - 1)) == 0;
     if (solo) {
@@ -688,8 +726,13 @@ void ProbarHuidaRey() {
             FichaGuardada = Copia(c, f);
             Copia(c, f) = rey;
             Ataque = false;
-            const bool atacada = solo ? PiezasQueAlcanzan<true>((c - 1) * 8 + (f - 1), moverBlanco)
-                                      : AlgunaAtaca(moverBlanco, rey);
+            // With one king the sets taken before the trials serve, with the
+            // king moved and the piece it took left out. Without one, ReyCol and
+            // ReyFila may be off the board.
+            const uint64_t piezas = solo ? (Piezas(m) & ~Bit(ReyCol, ReyFila)) | Bit(c, f) : 0;
+            const bool atacada =
+                solo ? Alcanzan(m, (c - 1) * 8 + (f - 1), moverBlanco, piezas, Bit(c, f)) != 0
+                     : PiezasQueAtacan(moverBlanco, rey) != 0;
             if (!atacada) {
                 Jaque = true;
                 Mate = false;
@@ -698,8 +741,10 @@ void ProbarHuidaRey() {
             Ataque = true;
             for (int j = i + 1; j < 8; ++j) {
                 const int cj = ReyCol + vecinos[j].dc, fj = ReyFila + vecinos[j].df;
-                if (Dentro(cj, fj) && Copia(cj, fj) == 0 &&
-                    PiezasQueAlcanzan<true>((cj - 1) * 8 + (fj - 1), moverBlanco))
+                if (!Dentro(cj, fj) || Copia(cj, fj) != 0) continue;
+                const int sj = (cj - 1) * 8 + (fj - 1);
+                if (solo ? Alcanzan(m, sj, moverBlanco, piezas, Bit(c, f)) != 0
+                         : Alcanzan(MapaDeLaCopia(), sj, moverBlanco, Piezas(MapaDeLaCopia())) != 0)
                     marcadas |= 1u << j;
             }
             Copia(ReyCol, ReyFila) = rey;
