@@ -6,6 +6,9 @@
 #include "core/move_filter.h"
 #include "core/move_list.h"
 
+#include <charconv>
+#include <string_view>
+
 namespace Variables {
 
 namespace {
@@ -19,7 +22,7 @@ std::string LetraColumnaMayuscula(int col) {
     return EnCasilla(col) ? std::string(1, char('A' + col - 1)) : std::string();
 }
 std::string DigitoFila(int fila) {
-    return EnCasilla(fila) ? std::to_string(fila) : std::string();
+    return EnCasilla(fila) ? std::string(1, char('0' + fila)) : std::string();
 }
 
 const char* LetraPieza(int32_t p) {
@@ -119,15 +122,35 @@ void Anadir(std::string& s, int32_t n) {
     else
         s += std::to_string(n);
 }
+
+// A short text built in place, for the records written at every move.
+class Texto {
+public:
+    void operator+=(char ch) {
+        if (n_ < sizeof b_) b_[n_++] = ch;
+    }
+    // As std::to_string writes it.
+    void Numero(int32_t v) {
+        if (v >= 0 && v <= 9)
+            *this += char('0' + v);
+        else
+            n_ = static_cast<size_t>(std::to_chars(b_ + n_, b_ + sizeof b_, v).ptr - b_);
+    }
+    std::string_view Ver() const { return {b_, n_}; }
+
+private:
+    char b_[96];
+    size_t n_ = 0;
+};
 } // namespace
 
 std::string RegistroDeshacer() {
-    std::string c;
-    c.reserve(15);
-    Anadir(c, ColOrigen);
-    Anadir(c, FilaOrigen);
-    Anadir(c, ColDestino);
-    Anadir(c, FilaDestino);
+    // At most six numbers of eleven characters and four letters.
+    Texto c;
+    c.Numero(ColOrigen);
+    c.Numero(FilaOrigen);
+    c.Numero(ColDestino);
+    c.Numero(FilaDestino);
     const int32_t destino = Tablero[ColDestino][FilaDestino];
     // The first case that fits, top down: odd moves (a castling king landing
     // on a piece, en passant onto a piece) take the capture form.
@@ -136,30 +159,30 @@ std::string RegistroDeshacer() {
             c += 't';
             c += DigitoDerechos();
         }
-        return c;
+        return std::string(c.Ver());
     }
     if (destino != 0 && PiezaCoronacion == 0) {
         c += 'x';
-        Anadir(c, destino);
+        c.Numero(destino);
         if (EsRey(FichaMovida)) {
             c += 't';
             c += DigitoDerechos();
         }
-        return c;
+        return std::string(c.Ver());
     }
     if (TipoEnroque != 0) {
         c += 'e';
         c += DigitoDerechos();
-        return c;
+        return std::string(c.Ver());
     }
-    if (!AlPasoTexto.empty()) return c + "p" + AlPasoTexto;
+    if (!AlPasoTexto.empty()) return std::string(c.Ver()) + "p" + AlPasoTexto;
     c += 'c';
-    Anadir(c, FichaMovida);
+    c.Numero(FichaMovida);
     if (FichaComidaCoronacion != 0) {
         c += 'x';
-        Anadir(c, FichaComidaCoronacion);
+        c.Numero(FichaComidaCoronacion);
     }
-    return c;
+    return std::string(c.Ver());
 }
 
 void EscribirJugada() {

@@ -39,9 +39,11 @@ char En(const std::string& s, size_t n) {
 }
 
 void Anotar() {
-    std::string e = Origen + Destino;
+    static std::string e; // one buffer for every move
+    e.assign(Origen);
+    e += Destino;
     if (PiezaCoronacion != 0) e += std::to_string(PiezaCoronacion);
-    ListaPgn::PgnJugadas.push_back(std::move(e));
+    ListaPgn::PgnJugadas.push_back(e);
 }
 
 void Fallo(const std::string& jugada) {
