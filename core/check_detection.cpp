@@ -351,8 +351,8 @@ Tras Alcanzado(int pc, int pf, int c, int f, int32_t objetivo, Clase clase, bool
         return Tras::FinRayo;
     }
     if (EsCodigoPropio(clase, objetivo)) {
-        OtraCol = std::to_string(c);
-        OtraFila = std::to_string(f);
+        OtraCol.assign(1, char('0' + c)); // a square of the board: one digit each
+        OtraFila.assign(1, char('0' + f));
         OtraPieza = true;
         return Tras::Sale;
     }

@@ -223,35 +223,38 @@ void EscribirJugada() {
 
 void TraducirNotacion(const std::string& texto, const std::string (&letras)[7]) {
     NotacionTraducida.clear();
+    size_t igual = 0; // start of the text not yet copied, which stays as it is
     for (size_t i = 0; i < texto.size(); ++i) {
+        const std::string* letra = nullptr;
         switch (texto[i]) {
         case 'B':
-            NotacionTraducida += letras[3];
+            letra = &letras[3];
             break;
         case 'N':
-            NotacionTraducida += letras[2];
+            letra = &letras[2];
             break;
         case 'R':
-            NotacionTraducida += letras[1];
+            letra = &letras[1];
             break;
         case 'Q':
-            NotacionTraducida += letras[4];
+            letra = &letras[4];
             break;
         case 'K':
-            NotacionTraducida += letras[5];
+            letra = &letras[5];
             break;
         case 'e':
-            if (i + 1 < texto.size() && texto[i + 1] == 'p') {
-                NotacionTraducida += letras[6];
-                ++i;
-                break;
-            }
-            [[fallthrough]];
+            if (i + 1 < texto.size() && texto[i + 1] == 'p') letra = &letras[6];
+            break;
         default:
-            NotacionTraducida += texto[i];
             break;
         }
+        if (!letra) continue;
+        NotacionTraducida.append(texto, igual, i - igual);
+        NotacionTraducida += *letra;
+        if (letra == &letras[6]) ++i;
+        igual = i + 1;
     }
+    NotacionTraducida.append(texto, igual, std::string::npos);
 }
 
 void PonerFila() {

@@ -108,8 +108,8 @@ void Peon(const std::string& j, int color) {
         PiezaCoronacion = CodigoCoronacion(letra, color);
     }
     if (!EnCasilla(co) || !EnCasilla(fo)) return;
-    OtraCol = std::to_string(co);
-    OtraFila = std::to_string(fo);
+    OtraCol.assign(1, char('0' + co)); // on the board: one digit each
+    OtraFila.assign(1, char('0' + fo));
     OtraPieza = false;
     Jugar(co, fo, cd, fd);
     if (!AlPasoTexto.empty()) {
