@@ -14,12 +14,40 @@ namespace {
 constexpr size_t kBloque = 1 << 20;
 // What is read past a range's end to finish its last line.
 constexpr size_t kCola = 4096;
+
+struct Compartido {
+    std::string ruta;
+    int fd = -1;
+    struct stat st {};
+};
+Compartido compartido;
 } // namespace
+
+FicheroCompartido::FicheroCompartido(const std::string& ruta) {
+    if (compartido.fd >= 0) return;
+    compartido.fd = qa::AbrirLecturaRegular(ruta, compartido.st);
+    if (compartido.fd < 0) return;
+    compartido.ruta = ruta;
+    propio_ = true;
+}
+
+FicheroCompartido::~FicheroCompartido() {
+    if (!propio_) return;
+    ::close(compartido.fd);
+    compartido.fd = -1;
+    compartido.ruta.clear();
+}
 
 LectorLineas::LectorLineas(const std::string& ruta, uint64_t desde, uint64_t hasta)
     : hasta_(hasta), posicion_(desde) {
     struct stat st {};
-    fd_ = qa::AbrirLecturaRegular(ruta, st);
+    if (compartido.fd >= 0 && compartido.ruta == ruta) {
+        fd_ = compartido.fd;
+        st = compartido.st;
+        prestado_ = true;
+    } else {
+        fd_ = qa::AbrirLecturaRegular(ruta, st);
+    }
     if (fd_ < 0) return;
     base_ = desde;
     const uint64_t tamano = static_cast<uint64_t>(std::max<off_t>(st.st_size, 0));
@@ -33,7 +61,7 @@ LectorLineas::LectorLineas(const std::string& ruta, uint64_t desde, uint64_t has
 }
 
 LectorLineas::~LectorLineas() {
-    if (fd_ >= 0) ::close(fd_);
+    if (fd_ >= 0 && !prestado_) ::close(fd_);
 }
 
 bool LectorLineas::Rellenar() {

@@ -37,6 +37,7 @@ private:
     bool Rellenar();
 
     int fd_ = -1;
+    bool prestado_ = false;       // the file of a FicheroCompartido, which closes it
     std::unique_ptr<char[]> buf_; // not zero-filled: only what was read is looked at
     size_t capacidad_ = 0;
     size_t ini_ = 0, fin_ = 0;
@@ -45,6 +46,20 @@ private:
     uint64_t posicion_ = 0;
     bool eof_ = false;
     bool fallo_ = false;
+};
+
+// While one lives, the readers of its path read through the file it opened
+// instead of opening it again: a game's selection reads the collection twice
+// in a row. One at a time; a second one meanwhile changes nothing.
+class FicheroCompartido {
+public:
+    explicit FicheroCompartido(const std::string& ruta);
+    ~FicheroCompartido();
+    FicheroCompartido(const FicheroCompartido&) = delete;
+    FicheroCompartido& operator=(const FicheroCompartido&) = delete;
+
+private:
+    bool propio_ = false;
 };
 
 // Whole-file helpers for the game files.

@@ -6,6 +6,7 @@
 #include "core/move_filter.h"
 #include "core/move_list.h"
 #include "core/move_sequence.h"
+#include "files/line_reader.h"
 #include "files/pgn_moves.h"
 #include "files/pgn_scanner.h"
 #include "files/pgn_text.h"
@@ -86,12 +87,15 @@ void CargarPartidaPgn() {
     ListaPgn::PgnJugadas.clear();
     PosicionInicial();
     CopiarTablero();
-    LeerCabecerasPgn(FicheroPgn);
+    {
+        const FicheroCompartido abierto(FicheroPgn); // for both passes
+        LeerCabecerasPgn(FicheroPgn);
+        if (!PgnConFen && TotalPartidas != 0) LeerMovimientosPgn(FicheroPgn);
+    }
     if (PgnConFen) return;
     if (TotalPartidas == 0) {
         MostrarAviso(55);
     } else {
-        LeerMovimientosPgn(FicheroPgn);
         const auto& filas = ListaPgn::PgnMovimientos;
         // Copies, reused from row to row: a message box may let the list change under them.
         std::string blancas, negras;
