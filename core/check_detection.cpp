@@ -709,6 +709,29 @@ void ProbarHuidaRey() {
     if (ReyCol < 0 || ReyCol > 8 || ReyFila < 0 || ReyFila > 8) return;
     constexpr Paso vecinos[8] = {{0, -1}, {-1, -1}, {-1, 0}, {-1, 1},
                                  {0, 1},  {1, 1},   {1, 0},  {1, -1}};
+    if (solo) {
+        // A marked square is one the mover reaches, so its trial would fail as
+        // well: the first square the king keeps is found without the marks.
+        // Only when every trial fails do they matter, for FichaGuardada below.
+        bool probada = false;
+        for (const Paso& p : vecinos) {
+            const int c = ReyCol + p.dc, f = ReyFila + p.df;
+            if (!Dentro(c, f)) continue;
+            const int32_t v = Copia(c, f);
+            if (v != 0 && !(v >= primero && v < primero + 6)) continue;
+            probada = true;
+            const uint64_t piezas = (Piezas(m) & ~Bit(ReyCol, ReyFila)) | Bit(c, f);
+            if (Alcanzan(m, (c - 1) * 8 + (f - 1), moverBlanco, piezas, Bit(c, f)) != 0) continue;
+            Copia(ReyCol, ReyFila) = 0;
+            FichaGuardada = v;
+            Copia(c, f) = rey;
+            Ataque = false;
+            Jaque = true;
+            Mate = false;
+            return;
+        }
+        if (!probada) return;
+    }
     // The map a failed trial draws marks every empty square the mover reaches,
     // and a marked neighbour is not tried. Both callers copy the board again
     // afterwards, so of each map only its marks on the neighbours still to be
