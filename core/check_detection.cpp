@@ -185,6 +185,7 @@ constexpr uint64_t Bit(int c, int f) {
 // and king's squares, and where a white (0) or black (1) pawn takes it from.
 struct Alcances {
     uint64_t rayo[64][8];
+    uint64_t lineas[64], diagonales[64]; // the first four rays, and the last four, together
     uint64_t caballo[64], rey[64];
     uint64_t peon[2][64];
 };
@@ -201,6 +202,7 @@ constexpr auto kAlcances = [] {
                 const Paso& p = i < 4 ? kRectas[i] : kDiagonales[i - 4];
                 for (int n = 1; Dentro(c + n * p.dc, f + n * p.df); ++n)
                     t.rayo[s][i] |= Bit(c + n * p.dc, f + n * p.df);
+                (i < 4 ? t.lineas : t.diagonales)[s] |= t.rayo[s][i];
             }
             for (int cc : {c - 1, c + 1}) {
                 if (Dentro(cc, f - 1)) t.peon[0][s] |= Bit(cc, f - 1);
@@ -286,12 +288,15 @@ uint64_t Alcanzan(const Mapa& m, int s, bool blancas, uint64_t piezas, uint64_t 
         const uint64_t t = rayo[d] & piezas;
         return (uint64_t{1} << (63 - __builtin_clzll(t | 1))) & t;
     };
-    const uint64_t rectas = bajo(0) | alto(1) | alto(2) | bajo(3);
-    const uint64_t diagonales = bajo(4) | bajo(5) | alto(6) | alto(7);
-    return ((kAlcances.peon[blancas ? 0 : 1][s] & con[PeonB - 1]) |
-            (kAlcances.caballo[s] & con[CaballoB - 1]) | (kAlcances.rey[s] & con[ReyB - 1]) |
-            (rectas & (con[TorreB - 1] | dama)) | (diagonales & (con[AlfilB - 1] | dama))) &
-           ~fuera;
+    const uint64_t torres = (con[TorreB - 1] | dama) & ~fuera;
+    const uint64_t alfiles = (con[AlfilB - 1] | dama) & ~fuera;
+    uint64_t r = ((kAlcances.peon[blancas ? 0 : 1][s] & con[PeonB - 1]) |
+                  (kAlcances.caballo[s] & con[CaballoB - 1]) | (kAlcances.rey[s] & con[ReyB - 1])) &
+                 ~fuera;
+    // The rays are followed only where such a piece stands on their lines.
+    if (kAlcances.lineas[s] & torres) r |= (bajo(0) | alto(1) | alto(2) | bajo(3)) & torres;
+    if (kAlcances.diagonales[s] & alfiles) r |= (bajo(4) | bajo(5) | alto(6) | alto(7)) & alfiles;
+    return r;
 }
 
 // The squares of TableroCopia that hold `rey`, a king's code.
