@@ -96,4 +96,56 @@ TEST_F(Mates, PromotionJudgedTwiceSecondVerdictStands) {
     EXPECT_FALSE(r.jaque);
 }
 
+// The king's escape tries its squares in a fixed order; a failed trial marks
+// every empty square the mover reaches, and a marked square is not tried.
+// FichaGuardada keeps what stood on the last square really tried.
+class Huida : public prueba::Partida {};
+
+TEST_F(Huida, TheFirstSquareTheKingKeepsEndsTheTrials) {
+    // h7 is covered by the knight on g5, g7 by the bishop; the knight on g8 can be taken.
+    Colocar("6Nk/p6N/7B/6N1/8/8/8/K7");
+    const auto r = Mover("a1b1");
+    ASSERT_EQ(r.tipo, Respuesta::Legal);
+    EXPECT_FALSE(r.jaque);
+    EXPECT_FALSE(r.ahogado);
+    EXPECT_EQ(FichaGuardada, CaballoB);
+    EXPECT_EQ(ReyCol, 8);
+    EXPECT_EQ(ReyFila, 8);
+}
+
+TEST_F(Huida, AMarkedSquareIsNotTried) {
+    // Every trial fails. With the king on h7 the rook on g7 reaches g8, so g8
+    // is never tried: the rook of the last real trial stays, not g8's 0.
+    Colocar("7k/p5RN/8/8/8/8/B7/K5R1");
+    ASSERT_EQ(Mover("a1b1").tipo, Respuesta::Legal);
+    EXPECT_EQ(FichaGuardada, TorreB);
+}
+
+// What the attack tests see on the board: every king of a code, and codes a
+// promotion to any number leaves, which stop rays and attack nothing.
+class Ataques : public prueba::Partida {};
+
+TEST_F(Ataques, EveryKingOfTheCodeIsLookedAt) {
+    Colocar("k6k/8/8/8/8/8/6R1/K7");
+    EXPECT_TRUE(Mover("g2h2").jaque) << "the king on h8, the second of the two";
+}
+
+TEST_F(Ataques, ACodeBeyondTwelveIsNoKing) {
+    Colocar("1k6/8/8/8/8/8/P7/K7");
+    Tablero[3][8] = 256 + ReyB; // a king's code in its last byte, beside Black's king
+    const auto r = Mover("a2a3");
+    ASSERT_EQ(r.tipo, Respuesta::Legal);
+    EXPECT_FALSE(r.jaque);
+}
+
+TEST_F(Ataques, ACodeBeyondTwelveStopsARay) {
+    Colocar("R6k/8/8/8/8/8/P7/K7");
+    EXPECT_TRUE(Mover("a2a3").jaque) << "the rook along the back row";
+    Colocar("R6k/8/8/8/8/8/P7/K7");
+    Tablero[4][8] = 262;
+    const auto r = Mover("a2a3");
+    ASSERT_EQ(r.tipo, Respuesta::Legal);
+    EXPECT_FALSE(r.jaque);
+}
+
 } // namespace

@@ -112,4 +112,22 @@ TEST(TextoJugadas, ReadsLikeTheStringItStandsFor) {
     EXPECT_EQ(t.str(), "");
 }
 
+TEST(ListaTextos, EmptiedAndFilledAgainReadsTheNewEntries) {
+    for (const size_t largo : {size_t{10}, size_t{3000}}) { // below and above the buffer kept
+        ListaTextos l;
+        for (size_t i = 0; i < 100; ++i) l.push_back(std::string(largo, char('a' + i % 26)));
+        l.clear();
+        EXPECT_TRUE(l.empty());
+        EXPECT_EQ(l.Ver(0), "");
+        std::vector<std::string> v;
+        for (size_t i = 0; i < 40; ++i) v.push_back(std::to_string(i * 31));
+        for (const auto& t : v) l.push_back(t);
+        ASSERT_EQ(l.size(), v.size());
+        for (size_t i : {size_t{39}, size_t{33}, size_t{0}, size_t{32}, size_t{31}})
+            EXPECT_EQ(l.Ver(i), v[i]) << largo << " " << i;
+        EXPECT_EQ(l, v);
+        EXPECT_EQ(l.Ver(40), "") << "past the end";
+    }
+}
+
 } // namespace

@@ -1,5 +1,6 @@
 // The four move texts, the squares line and the undo records.
 #include "core/move_list.h"
+#include "core/notation.h"
 #include "test_support.h"
 
 using namespace Variables;
@@ -120,6 +121,22 @@ TEST_F(Notacion_, HiddenWhileThePgnBrowserIsOpen) {
     EXPECT_TRUE(Jugadas::List[4].empty());
     EXPECT_EQ(Jugadas::List1.size(), 2u) << "undo records go on";
     EXPECT_EQ(NumeroJugada, 1);
+}
+
+TEST_F(Notacion_, UserLettersOfAnyLength) {
+    const std::string antes[7] = {LetrasUsuario[0], LetrasUsuario[1], LetrasUsuario[2],
+                                  LetrasUsuario[3], LetrasUsuario[4], LetrasUsuario[5],
+                                  LetrasUsuario[6]};
+    const std::string letras[7] = {"", "To", "Ca", "Al", "Da", "Re", "a.p."};
+    for (int i = 0; i < 7; ++i) LetrasUsuario[i] = letras[i];
+    Nueva();
+    Jugar({"e2e4", "a7a6", "e4e5", "d7d5", "e5d6", "b8c6", "f1b5", "a8a7", "b5c6"});
+    const auto l5 = Jugadas::Lineas(5);
+    EXPECT_EQ(l5[4], "3. exd6a.p.");
+    EXPECT_EQ(l5[5], std::string(18, ' ') + "Cac6");
+    EXPECT_EQ(l5.back(), "5. Alxc6+");
+    EXPECT_EQ(NotacionTraducida, "Alxc6+");
+    for (int i = 0; i < 7; ++i) LetrasUsuario[i] = antes[i];
 }
 
 } // namespace

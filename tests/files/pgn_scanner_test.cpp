@@ -8,6 +8,7 @@
 #include "files/pgn_text.h"
 #include "files_support.h"
 
+#include <filesystem>
 #include <fstream>
 
 using namespace Variables;
@@ -29,6 +30,7 @@ const Token kTokens[] = {
     {"$14", 4}, {"e4", 3},      {"O-O", 3},   {"1-0", 6}, {"0-1", 6},  {"1/2-1/2", 6},
     {"*", 6},   {"Ra1-a2", 6},  {"12.e4", 5}, {"e4.", 3}, {"Nf3+", 3}, {"+1", 2},
     {"1e5", 2}, {"O-O-O", 3},   {"0-0", 3},   {"--", 3},  {"a1=Q", 3}, {"!?", 3},
+    {" 12", 2}, {"+5", 2},      {"7", 2},     {"Nf3", 3}, {"e2e4", 3}, {"Bb5$", 4},
 };
 
 TEST(TipoToken, ClassifiesInItsOrder) {
@@ -163,6 +165,48 @@ TEST_F(Escaner, SelectingAGameReadsAboutItsOwnSize) {
         EXPECT_EQ(ListaPgn::PgnJugadas.size(), 10u);
         EXPECT_LT(leidos, 16u * 1024) << "game " << k << " of a " << texto.size() << "-byte file";
     }
+}
+
+// Descriptors this process holds open.
+size_t Abiertos() {
+    size_t n = 0;
+    for ([[maybe_unused]] const auto& e : std::filesystem::directory_iterator("/proc/self/fd")) ++n;
+    return n;
+}
+
+TEST_F(Escaner, ReadersShareTheFileOpenedForTheirPath) {
+    const std::string ruta = Escribir("uno.txt", "a\nb\n");
+    const std::string otra = Escribir("otra.txt", "c\n");
+    const size_t antes = Abiertos();
+    std::string_view l;
+    {
+        const FicheroCompartido abierto(ruta);
+        // Gone from its folder, the file is still read through the open one.
+        std::filesystem::remove(ruta);
+        {
+            const FicheroCompartido segundo(otra); // while the first lives: changes nothing
+            LectorLineas lector(ruta);
+            ASSERT_TRUE(lector.Siguiente(l));
+            EXPECT_EQ(l, "a");
+            LectorLineas suyo(otra);
+            ASSERT_TRUE(suyo.Siguiente(l));
+            EXPECT_EQ(l, "c");
+        }
+        LectorLineas desdeB(ruta, 2);
+        ASSERT_TRUE(desdeB.Siguiente(l)) << "the second one closed the first one's file";
+        EXPECT_EQ(l, "b");
+    }
+    EXPECT_EQ(Abiertos(), antes);
+    EXPECT_FALSE(LectorLineas(ruta).Abierto());
+}
+
+TEST_F(Escaner, SelectingAGameLeavesNoFileOpen) {
+    Abrir(Escribir("tres.pgn", kTres));
+    const size_t antes = Abiertos();
+    Elegir(2);
+    Elegir(1);
+    EXPECT_EQ(Cajas(), "Dos|S2||||D|");
+    EXPECT_EQ(Abiertos(), antes);
 }
 
 TEST_F(Escaner, ARangeEndsWithItsLastLineWhateverItsLength) {
