@@ -4,7 +4,7 @@
 # Without the registries it says so and fails, leaving the folder without a
 # stamp: the tests that need the files must not pass unchecked.
 set -uo pipefail
-out=${1:?folder}
+out=$(realpath -m "${1:?folder}") # the steps below change folder
 [ -f "$out/.stamp" ] && exit 0
 mkdir -p "$out/pkg" && cd "$out/pkg" || exit 1
 debs=(python3-networkx pgn-extract pychess)
