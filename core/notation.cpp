@@ -60,8 +60,9 @@ bool EsRey(int32_t p) {
 void TextoAlgebraico() {
     if (PiezaCoronacion >= 2 && PiezaCoronacion <= 5) FichaMovida = PeonB;
     if (PiezaCoronacion >= 8 && PiezaCoronacion <= 11) FichaMovida = PeonN;
-    Notacion = LetraPieza(FichaMovida);
-    if (Notacion == "B" || Notacion == "N" || Notacion == "R" || Notacion == "Q") Desambiguar();
+    const char letra = *LetraPieza(FichaMovida);
+    Notacion.assign(letra ? 1 : 0, letra);
+    if (letra == 'B' || letra == 'N' || letra == 'R' || letra == 'Q') Desambiguar();
 
     const bool ocupado = Tablero[ColDestino][FilaDestino] != 0;
     if (ocupado && PiezaCoronacion == 0 && (FichaMovida == PeonB || FichaMovida == PeonN))
@@ -70,8 +71,8 @@ void TextoAlgebraico() {
     if (ocupado && PiezaCoronacion == 0) Notacion += "x";
     if (FichaComidaCoronacion != 0) Notacion += "x";
     if (!AlPasoTexto.empty()) Notacion = LetraColumna(ColOrigen) + "x";
-    Notacion += LetraColumna(ColDestino);
-    Notacion += DigitoFila(FilaDestino);
+    if (EnCasilla(ColDestino)) Notacion += char('a' + ColDestino - 1);
+    if (EnCasilla(FilaDestino)) Notacion += char('0' + FilaDestino);
     if (!AlPasoTexto.empty()) Notacion += "ep";
     if (TipoEnroque == 1) Notacion = "O-O";
     if (TipoEnroque == 2) Notacion = "O-O-O";
