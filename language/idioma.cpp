@@ -152,18 +152,19 @@ const std::vector<ClaveIdioma>& ClavesIdioma() {
 }
 
 bool LeerTextosIdioma() {
-    AutorLeido() = LeerIni(FicheroIdioma, "Autor", "Nombre");
-    if (LeerIni(FicheroIdioma, "Version", "Version") != kVersionIdioma) return false;
+    LecturaIni lng(FicheroIdioma);
+    AutorLeido() = lng.Leer("Autor", "Nombre");
+    if (lng.Leer("Version", "Version") != kVersionIdioma) return false;
     auto& textos = Textos();
     textos.clear();
     for (const auto& c : ClavesIdioma())
-        textos[Llave(c.seccion, c.clave)] = LeerIni(FicheroIdioma, c.seccion, c.clave);
+        textos[Llave(c.seccion, c.clave)] = lng.Leer(c.seccion, c.clave);
     for (int i = 1; i <= 3; ++i) TitulosEpd[i] = Texto("Pgn", std::to_string(9 + i));
     TitulosMotor[1] = Texto("CPU", "19");
     TitulosMotor[2] = Texto("CPU", "20");
     TextoSinMotor = Texto("CPU", "10");
     for (std::size_t i = 1; i < Mensajes.size(); ++i)
-        Mensajes[i] = LeerIni(FicheroIdioma, "Mensajes", std::to_string(i));
+        Mensajes[i] = lng.Leer("Mensajes", std::to_string(i));
     return true;
 }
 

@@ -268,18 +268,37 @@ void FijarAvisoIdiomaIncorrecto(AvisoIdiomaIncorrecto aviso) {
     Aviso() = std::move(aviso);
 }
 
+namespace {
+
+std::string ValorEn(const Copia* c, const std::string& seccion, const std::string& clave) {
+    if (!c) return {};
+    auto s = c->valores.find(Minusculas(seccion));
+    if (s == c->valores.end()) return {};
+    auto k = s->second.find(Minusculas(clave));
+    return k == s->second.end() ? std::string() : k->second;
+}
+
+// An empty value from a language file, outside "Autor", sounds the alarm.
+bool Alarma(const std::string& fichero, const std::string& seccion, const std::string& valor) {
+    return valor.empty() && TerminaEn(fichero, "lng") && Minusculas(seccion) != "autor" && Aviso();
+}
+
+} // namespace
+
 std::string LeerIni(const std::string& fichero, const std::string& seccion,
                     const std::string& clave) {
-    std::string valor;
-    if (const Copia* c = CopiaDe(fichero)) {
-        auto s = c->valores.find(Minusculas(seccion));
-        if (s != c->valores.end()) {
-            auto k = s->second.find(Minusculas(clave));
-            if (k != s->second.end()) valor = k->second;
-        }
-    }
-    if (valor.empty() && TerminaEn(fichero, "lng") && Minusculas(seccion) != "autor" && Aviso())
+    std::string valor = ValorEn(CopiaDe(fichero), seccion, clave);
+    if (Alarma(fichero, seccion, valor)) Aviso()();
+    return valor;
+}
+
+std::string LecturaIni::Leer(const std::string& seccion, const std::string& clave) {
+    if (!copia_) copia_ = CopiaDe(fichero_);
+    std::string valor = ValorEn(static_cast<const Copia*>(copia_), seccion, clave);
+    if (Alarma(fichero_, seccion, valor)) {
+        copia_ = nullptr; // whatever the alarm does, the next read looks at the file again
         Aviso()();
+    }
     return valor;
 }
 

@@ -8,6 +8,7 @@
 // that the file is never left half written.
 #include <functional>
 #include <string>
+#include <utility>
 
 namespace qa {
 
@@ -15,6 +16,19 @@ constexpr std::size_t kLargoMaximoValor = 255;
 
 std::string LeerIni(const std::string& fichero, const std::string& seccion,
                     const std::string& clave);
+
+// Many keys of one file read in a row, each as LeerIni reads it, with the file looked at once
+// instead of at every key: a language file's hundreds of texts at start. Only the alarm of a
+// missing text can run anything between two reads, and after it the file is looked at again.
+class LecturaIni {
+public:
+    explicit LecturaIni(std::string fichero) : fichero_(std::move(fichero)) {}
+    std::string Leer(const std::string& seccion, const std::string& clave);
+
+private:
+    std::string fichero_;
+    const void* copia_ = nullptr; // the parsed copy the reads go to, while it cannot have changed
+};
 
 // True when the file is a regular file that can be read: a folder, a FIFO, a device or a file
 // we may not read is no settings or language file, and counts as missing.

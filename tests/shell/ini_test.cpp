@@ -141,6 +141,32 @@ TEST_F(Ini, EmptyValueFromLanguageFileRaisesTheAlarm) {
     EXPECT_EQ(avisos, 2);
 }
 
+TEST_F(Ini, ManyKeysInARowReadAsOneByOne) {
+    Escribir("[Autor]\n[Menu]\nMenu1=Archivo\nmenu3 = Ver\n", "Prueba.lng");
+    const std::string lng = (dir / "Prueba.lng").string();
+    int avisos = 0;
+    FijarAvisoIdiomaIncorrecto([&] {
+        // The alarm may do anything, our own write included: the next read sees it.
+        if (++avisos == 1) {
+            EXPECT_TRUE(EscribirIni(lng, "Menu", "Menu2", "Edicion"));
+        }
+    });
+    LecturaIni lectura(lng);
+    EXPECT_EQ(lectura.Leer("menu", "MENU1"), "Archivo");
+    EXPECT_EQ(lectura.Leer("Menu", "Menu3"), "Ver");
+    EXPECT_EQ(lectura.Leer("Autor", "Nombre"), "");
+    EXPECT_EQ(avisos, 0);
+    EXPECT_EQ(lectura.Leer("Menu", "Menu2"), "");
+    EXPECT_EQ(avisos, 1);
+    EXPECT_EQ(lectura.Leer("Menu", "Menu2"), "Edicion");
+    EXPECT_EQ(lectura.Leer("Menu", "Menu1"), "Archivo");
+    EXPECT_EQ(lectura.Leer("Nada", "x"), "");
+    EXPECT_EQ(avisos, 2);
+    LecturaIni falta((dir / "Falta.lng").string());
+    EXPECT_EQ(falta.Leer("Menu", "Menu1"), "");
+    EXPECT_EQ(avisos, 3);
+}
+
 TEST_F(Ini, FoldersFifosAndDevicesReadAsMissing) {
     ::alarm(60); // a read that waits for a FIFO's writer ends the run instead of hanging it
     fs::create_directory(dir / "Carpeta.ini");
