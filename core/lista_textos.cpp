@@ -42,16 +42,22 @@ void ListaTextos::swap(ListaTextos& o) noexcept {
 void ListaTextos::push_back(std::string_view texto) {
     if (n_ % kPaso == 0) marcas_.push_back(datos_.size());
     ultima_ = datos_.size();
-    char cabeza[10];
+    // Length and text in one piece when short, as most entries are: one append.
+    char entrada[64];
     size_t n = 0;
     size_t largo = texto.size();
     do {
         const auto b = static_cast<unsigned char>(largo & 0x7F);
         largo >>= 7;
-        cabeza[n++] = static_cast<char>(largo ? b | 0x80 : b);
+        entrada[n++] = static_cast<char>(largo ? b | 0x80 : b);
     } while (largo);
-    datos_.append(cabeza, n);
-    datos_.append(texto);
+    if (n + texto.size() <= sizeof entrada) {
+        for (const char c : texto) entrada[n++] = c;
+        datos_.append(entrada, n);
+    } else {
+        datos_.append(entrada, n);
+        datos_.append(texto);
+    }
     ++n_;
 }
 

@@ -39,11 +39,19 @@ char En(const std::string& s, size_t n) {
 }
 
 void Anotar() {
-    static std::string e; // one buffer for every move
-    e.assign(Origen);
-    e += Destino;
-    if (PiezaCoronacion != 0) e += std::to_string(PiezaCoronacion);
-    ListaPgn::PgnJugadas.push_back(e);
+    if (PiezaCoronacion != 0) {
+        ListaPgn::PgnJugadas.push_back(Origen + Destino + std::to_string(PiezaCoronacion));
+        return;
+    }
+    char e[8]; // two squares of two digits each
+    if (Origen.size() + Destino.size() > sizeof e) {
+        ListaPgn::PgnJugadas.push_back(Origen + Destino);
+        return;
+    }
+    size_t n = 0;
+    for (const char c : Origen) e[n++] = c;
+    for (const char c : Destino) e[n++] = c;
+    ListaPgn::PgnJugadas.push_back(std::string_view(e, n));
 }
 
 void Fallo(const std::string& jugada) {
