@@ -308,13 +308,15 @@ uint64_t Piezas(const Mapa& m) {
     return ~(m.con[0] | m.con[1]);
 }
 
-// The pieces of one colour that would hit any square of TableroCopia holding `rey`.
-uint64_t PiezasQueAtacan(bool blancas, int32_t rey) {
-    const Mapa& m = MapaDeLaCopia();
+// The pieces of one colour that would hit any square of the map holding `rey`.
+uint64_t PiezasQueAtacan(const Mapa& m, bool blancas, int32_t rey) {
     uint64_t piezas = 0;
     for (uint64_t reyes = Reyes(m, rey); reyes; reyes &= reyes - 1)
         piezas |= Alcanzan(m, __builtin_ctzll(reyes), blancas, Piezas(m));
     return piezas;
+}
+uint64_t PiezasQueAtacan(bool blancas, int32_t rey) {
+    return PiezasQueAtacan(MapaDeLaCopia(), blancas, rey);
 }
 
 enum class Tras { Sigue, FinRayo, Sale };
@@ -632,7 +634,10 @@ void ProbarAtaque() {
         EscanearAtaque(true);
 }
 
-void ProbarReyPropio() {
+namespace {
+
+// ProbarReyPropio; the sets of the copy it drew when the king is not attacked.
+const Mapa* ReyPropio() {
     CopiarTablero();
     if (MovimientoValido) {
         if (Dentro(ColOrigen, FilaOrigen)) TableroCopia[ColOrigen][FilaOrigen] = 0;
@@ -640,9 +645,26 @@ void ProbarReyPropio() {
     }
     // Every caller copies the board again before it reads marks, so the map
     // is drawn only for a king that is attacked.
-    if (EsBlanca(FichaMovida) && PiezasQueAtacan(false, ReyB) == 0) return;
-    if (EsNegra(FichaMovida) && PiezasQueAtacan(true, ReyN) == 0) return;
+    const Mapa& m = MapaDeLaCopia();
+    if (EsBlanca(FichaMovida) && PiezasQueAtacan(m, false, ReyB) == 0) return &m;
+    if (EsNegra(FichaMovida) && PiezasQueAtacan(m, true, ReyN) == 0) return &m;
     ProbarAtaque();
+    return nullptr;
+}
+
+void Veredicto(const Mapa& m);
+
+} // namespace
+
+void ProbarReyPropio() {
+    ReyPropio();
+}
+
+bool ReyPropioYVeredictoEnCopia() {
+    const Mapa* m = ReyPropio();
+    if (Ataque) return false;
+    Veredicto(m ? *m : MapaDeLaCopia());
+    return true;
 }
 
 void BuscarAtacantes() {
@@ -667,7 +689,53 @@ void ProbarJaque() {
     ProbarJaqueEnCopia();
 }
 
+namespace {
+
+// The tests of the verdict on one map of the copy: the check test only reads
+// the copy, so the king's escape after it finds the copy as the map shows it.
+void JaqueEnCopia(const Mapa& m);
+void HuidaRey(const Mapa& m);
+void MateEnCopia(const Mapa& m);
+void AhogadoEnCopia(const Mapa& m);
+
+} // namespace
+
 void ProbarJaqueEnCopia() {
+    JaqueEnCopia(MapaDeLaCopia());
+}
+
+void ProbarHuidaRey() {
+    HuidaRey(MapaDeLaCopia());
+}
+
+void ProbarMateEnCopia() {
+    MateEnCopia(MapaDeLaCopia());
+}
+
+void ProbarAhogadoEnCopia() {
+    AhogadoEnCopia(MapaDeLaCopia());
+}
+
+void VeredictoEnCopia() {
+    Veredicto(MapaDeLaCopia());
+}
+
+namespace {
+
+void Veredicto(const Mapa& m) {
+    Jaque = false;
+    Ataque = false;
+    JaqueEnCopia(m);
+    if (Jaque) {
+        Mate = true;
+        MateEnCopia(m);
+    } else {
+        Ahogado = false;
+        AhogadoEnCopia(m);
+    }
+}
+
+void JaqueEnCopia(const Mapa& m) {
     Atacantes.clear();
     // What BuscarAtacantes would collect, without its marks: mate and
     // stalemate tests copy the board afresh.
@@ -675,7 +743,7 @@ void ProbarJaqueEnCopia() {
         const bool blancas = EsBlanca(FichaMovida);
         // In scan order: rows outer, columns inner.
         uint64_t enOrden = 0;
-        for (uint64_t p = PiezasQueAtacan(blancas, blancas ? ReyN : ReyB); p; p &= p - 1) {
+        for (uint64_t p = PiezasQueAtacan(m, blancas, blancas ? ReyN : ReyB); p; p &= p - 1) {
             const int i = __builtin_ctzll(p);
             enOrden |= uint64_t{1} << (i % 8 * 8 + i / 8);
         }
@@ -689,12 +757,11 @@ void ProbarJaqueEnCopia() {
     if (!Atacantes.empty()) Jaque = true;
 }
 
-void ProbarHuidaRey() {
+void HuidaRey(const Mapa& m) {
     bool moverBlanco = EsBlanca(FichaMovida);
     if (!moverBlanco && !EsNegra(FichaMovida)) return;
     int32_t rey = moverBlanco ? ReyN : ReyB;
     int32_t primero = moverBlanco ? 1 : 7; // the mover's codes, which the king may take
-    const Mapa& m = MapaDeLaCopia();
     const uint64_t reyes = Reyes(m, rey);
     // With one king on the board, each trial's only king stands on the square tried.
     const bool solo = reyes && (reyes & (reyes - 1)) == 0;
@@ -780,6 +847,8 @@ void ProbarHuidaRey() {
         }
     }
 }
+
+} // namespace
 
 void ContarAtacantes() {
     CopiarYJugar();
@@ -898,8 +967,10 @@ void ProbarMate() {
     ProbarMateEnCopia();
 }
 
-void ProbarMateEnCopia() {
-    ProbarHuidaRey();
+namespace {
+
+void MateEnCopia(const Mapa& m) {
+    HuidaRey(m);
     if (!Mate) return;
     Ataque = false;
     ContarAtacantes();
@@ -916,15 +987,19 @@ void ProbarMateEnCopia() {
     JaqueDescubierto.clear();
 }
 
+} // namespace
+
 void ProbarAhogado() {
     CopiarYJugar();
     ProbarAhogadoEnCopia();
 }
 
-void ProbarAhogadoEnCopia() {
+namespace {
+
+void AhogadoEnCopia(const Mapa& m) {
     Ataque = false;
     Mate = true;
-    ProbarHuidaRey();
+    HuidaRey(m);
     if (!Mate) {
         Ataque = Jaque = Mate = Ahogado = false;
         return;
@@ -939,5 +1014,7 @@ void ProbarAhogadoEnCopia() {
     if (Mate) Ahogado = true;
     Ataque = Jaque = Mate = false;
 }
+
+} // namespace
 
 } // namespace Variables

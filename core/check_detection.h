@@ -18,6 +18,11 @@ void ProbarAhogado();
 void ProbarJaqueEnCopia();
 void ProbarMateEnCopia();
 void ProbarAhogadoEnCopia();
+// Check, then mate or stalemate, on such a copy: the filter's verdict on the opponent.
+void VeredictoEnCopia();
+// ProbarReyPropio for a move that stands on the copy it draws; false when the
+// own king is left attacked, else the verdict made on that copy.
+bool ReyPropioYVeredictoEnCopia();
 
 void ProbarAtaque();
 void BuscarAtacantes();

@@ -68,18 +68,18 @@ void ReglaPeon(bool blanco) {
 // opponent. False when the move is refused.
 bool ReyPropioYVeredicto() {
     Ataque = false;
-    const bool conJugada = MovimientoValido; // then the copy holds the move, as the verdict's
-    ProbarReyPropio();
-    if (Ataque) {
-        MovimientoValido = false;
-        Ataque = false;
-        return false;
+    if (MovimientoValido) { // then the copy holds the move, as the verdict's
+        if (ReyPropioYVeredictoEnCopia()) return true;
+    } else {
+        ProbarReyPropio();
+        if (!Ataque) {
+            VeredictoRival();
+            return true;
+        }
     }
-    if (conJugada)
-        VeredictoEnCopia();
-    else
-        VeredictoRival();
-    return true;
+    MovimientoValido = false;
+    Ataque = false;
+    return false;
 }
 
 // Promotion of a pawn that reached its last row.
@@ -323,20 +323,6 @@ void ReglasPieza() {
 void VeredictoRival() {
     CopiarYJugar();
     VeredictoEnCopia();
-}
-
-void VeredictoEnCopia() {
-    Jaque = false;
-    Ataque = false;
-    // The check test only reads the copy, so the next test finds it as drawn.
-    ProbarJaqueEnCopia();
-    if (Jaque) {
-        Mate = true;
-        ProbarMateEnCopia();
-    } else {
-        Ahogado = false;
-        ProbarAhogadoEnCopia();
-    }
 }
 
 void FiltroMovimiento() {

@@ -17,8 +17,6 @@ void AplicarMovimiento();
 void CancelarAlPaso();
 // Check, then mate or stalemate, for the move as it stands.
 void VeredictoRival();
-// The same on a TableroCopia that holds the move already, with no marks.
-void VeredictoEnCopia();
 // Flips the four coordinates when the board is shown from Black's side.
 void InvertirMovimiento();
 
