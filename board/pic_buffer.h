@@ -58,6 +58,12 @@ public:
     void RestaurarArrastre();
     // What the core's DibujarMovimiento reaches: the click path has drawn already.
     void DibujarMovimientoPedido();
+    // A message from the peer cuts the user's move short. A drag ends with the piece back on
+    // its square, never dropped where the cursor happens to be: that would play a whole move,
+    // promotion box and all, inside the handling of the peer's message.
+    void CancelarArrastre();
+    // Point-and-click: the selection's marker goes and the pointer is the default again.
+    void SoltarSeleccion();
 
     // The four events of the picture, in pixels of the picture.
     void MouseDown(Qt::MouseButton boton, int x, int y);

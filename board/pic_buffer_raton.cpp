@@ -194,6 +194,19 @@ void PicBuffer::DragDrop(int x, int y) {
     Soltar(Digitos(c, f), &mano);
 }
 
+void PicBuffer::CancelarArrastre() {
+    if (!arrastrando_) return;
+    arrastrando_ = false;
+    PonerCursor(Normal);
+    Anular();
+}
+
+void PicBuffer::SoltarSeleccion() {
+    marcador_.visible = false;
+    PonerCursor(Normal);
+    update();
+}
+
 void PicBuffer::MarcarCasilla(int col, int fila) {
     if (EditandoTablero) {
         rey_ = {true, QPoint(col, fila)};

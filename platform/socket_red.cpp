@@ -275,6 +275,15 @@ int SocketRed::PuertoDelPeer() const {
     return conexion_ ? conexion_->peerPort() : 0;
 }
 
+std::string SocketRed::HostDelPeer() const {
+    if (!conexion_) return {};
+    QHostAddress a = conexion_->peerAddress();
+    bool v4 = false;
+    const quint32 ip4 = a.toIPv4Address(&v4);
+    if (v4) a = QHostAddress(ip4); // a caller on IPv4 reaches the dual-stack listener mapped
+    return a.toString().toStdString();
+}
+
 int SocketRed::PuertoPropio() const {
     return conexion_ ? conexion_->localPort() : 0;
 }

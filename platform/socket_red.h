@@ -64,6 +64,7 @@ public:
     static std::string LocalIP();
     // The port the connected peer calls from, and ours; 0 when not connected.
     int PuertoDelPeer() const;
+    std::string HostDelPeer() const;
     int PuertoPropio() const;
 
     // Events.

@@ -15,6 +15,7 @@
 #include "shell/cpu.h"
 #include "shell/enlaces.h"
 #include "shell/form_level2.h"
+#include "shell/formas_red.h"
 #include "shell/formularios.h"
 #include "shell/jugadas.h"
 #include "shell/mdi.h"
@@ -238,10 +239,8 @@ bool CerrarMdi() {
     auto& f = Forms();
     if (motor().CpuVisible()) Ejecutar(en.CerrarMotores);
     Ejecutar(en.DescargarDLL);
-    if (Cierto(en.ConexionCommand1Enabled)) Ejecutar(en.CerrarSockets);
     if (f.opciones && f.opciones->isVisible()) f.opciones->OpcionesAceptar();
-    if (Variables::Conectado) Ejecutar(en.Desconectar);
-    if (Variables::Conectado) {
+    if (en.CerrarRed && !en.CerrarRed()) {
         // Nothing is saved yet: the end of the connection brings us back here.
         CierrePendiente = true;
         return false;
@@ -277,6 +276,10 @@ void CrearFormularios() {
     }
     f.opciones = new Opciones(mdi);
     f.splash = new Splash(mdi);
+    f.conexion = new Conexion(mdi);
+    f.ip = new Ip(mdi);
+    f.nuevo = new Nuevo(mdi);
+    Ejecutar(Enlace().FormulariosCreados);
     FijarAvisoIdiomaIncorrecto(&AvisarIdiomaIncorrecto);
 }
 

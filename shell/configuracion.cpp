@@ -69,7 +69,7 @@ bool ExisteFichero(const std::string& fichero) {
     if (TerminaEn(fichero, "ini") && Mensajes[63].empty())
         MostrarMensaje("Quintarena", "El fichero Default.ini no se ha encontrado.",
                        kIconoInformacion);
-    if (TerminaEn(fichero, "dat")) GrabarPuntuacion();
+    if (TerminaEn(fichero, "dat") && GrabarPuntuacion()) PrintPuntuacion();
     (void)aviso;
     return false;
 }

@@ -13,20 +13,33 @@ namespace qa {
 struct Enlaces {
     // Loaders of the three file types.
     std::function<void(const std::string&)> CargarPgn, AbrirQtr, AbrirEpd;
+    // The open command while connected: true when the network took the file (or refused it).
+    std::function<bool(const std::string&)> AbrirEnRed;
+    // The forms are made: the layers hook their handlers up.
+    std::function<void()> FormulariosCreados;
 
     // State owned by other forms. Whether a peer is connected is the core's Conectado; whether
     // the PGN browser or the engine form is up, the core's listas() and motor() say.
     std::function<bool()> SetTableroVisible;
-    std::function<bool()> ConexionCommand1Enabled, ModoEdicion, Cargando;
+    std::function<bool()> ModoEdicion, Cargando;
     std::function<std::string()> NombreRemoto;
 
+    // The EPD browser as the network needs it: whether it is up, a file opened in it with no
+    // question asked, its close, and the peer's cancel of the position.
+    std::function<bool()> EpdVisible;
+    std::function<void(const std::string&)> LeerEpd;
+    std::function<void()> CerrarEpd, CancelarEpd;
+
     // Steps of the close and the load that belong to the other layers.
-    std::function<void()> CerrarMotores, DescargarDLL, CerrarSockets, Desconectar, CambiarNick;
+    std::function<void()> CerrarMotores, DescargarDLL, CambiarNick;
     // The engine form: shown for a new game at this machine; its commands "3" resign, "4" offer
     // a draw, "5" take back, which the main menu's entries become while it is up; the levels
     // read from the settings.
     std::function<void()> MostrarCpu, NivelesLeidos;
     std::function<void(const std::string&)> ToolboxComand;
+    // The network's part of the close: false while a disconnect is still under way, and the
+    // close must wait for it.
+    std::function<bool()> CerrarRed;
     std::function<void()> CargarImagenes, NotacionCambiada, PointClickCambiado, PintarFondos;
     std::function<int()> AlturaFichas; // height of the piece buffers, for the size setting
     std::function<void()> CambiarTamano, RepintarPaleta;

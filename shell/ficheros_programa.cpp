@@ -5,6 +5,7 @@
 #include "board/vista_tablero.h"
 #include "core/environment.h"
 #include "core/game_state.h"
+#include "files/epd_list.h"
 #include "files/game_file.h"
 #include "files/gui/epd_form.h"
 #include "files/gui/lista_pgn_form.h"
@@ -150,13 +151,28 @@ QPointer<EpdF>& FormaEpd() {
     return forma;
 }
 
-void AbrirFicheroEpd(const std::string& ruta) {
+EpdF* FormularioEpd() {
     const bool nueva = !FormaEpd();
     EpdF* f = Navegador(FormaEpd());
     if (nueva) {
         QObject::connect(f, &EpdF::PosicionAbierta, [] { dibujo().RedibujarTablero(); });
         QObject::connect(f, &EpdF::Cerrado, [] { dibujo().RedibujarTablero(); });
     }
+    return f;
+}
+
+// The browser opens the file, with no question: the position on show was given up before.
+void LeerFicheroEpd(const std::string& ruta) {
+    EpdF* f = FormularioEpd();
+    PonerPiezas(f->Tablero());
+    f->Abrir(QString::fromStdString(RutaUsuario(ruta)));
+    Situar(f, Controles().Epd);
+    f->show();
+    f->raise();
+}
+
+void AbrirFicheroEpd(const std::string& ruta) {
+    EpdF* f = FormularioEpd();
     // A position on show is replaced only when the player agrees.
     if (f->isVisible()) {
         if (MostrarMensajeNumero(57, kIconoPregunta, kBotonesSiNo) != kRespuestaSi) return;
@@ -231,6 +247,15 @@ void InstalarFicheros() {
     en.AbrirQtr = AbrirPartidaQtr;
     en.CargarPgn = CargarPgn;
     en.AbrirEpd = AbrirFicheroEpd;
+    en.EpdVisible = [] { return FormaEpd() && FormaEpd()->isVisible(); };
+    en.LeerEpd = LeerFicheroEpd;
+    en.CerrarEpd = [] {
+        if (FormaEpd()) FormaEpd()->close();
+    };
+    en.CancelarEpd = [] {
+        FEpd::CancelarEPD();
+        dibujo().RedibujarTablero();
+    };
     static ListasPrograma listas;
     InstalarListas(&listas);
     en.Comandos["mnuGuardarPartida"] = GuardarPartidaComando;

@@ -17,6 +17,9 @@ class Opciones;
 class Splash;
 class Cpu;
 class FormLevel2;
+class Conexion;
+class Ip;
+class Nuevo;
 
 struct Formularios {
     Mdi* mdi = nullptr;
@@ -29,6 +32,9 @@ struct Formularios {
     Splash* splash = nullptr;
     Cpu* cpu = nullptr;
     FormLevel2* formLevel2 = nullptr;
+    Conexion* conexion = nullptr;
+    Ip* ip = nullptr;
+    Nuevo* nuevo = nullptr;
 };
 
 Formularios& Forms();

@@ -7,6 +7,7 @@
 #include "shell/chat.h"
 #include "shell/configuracion.h"
 #include "shell/cpu.h"
+#include "shell/formas_red.h"
 #include "shell/formularios.h"
 #include "shell/jugadas.h"
 #include "shell/mdi.h"
@@ -77,6 +78,9 @@ void Idioma() {
     if (f.ranking) f.ranking->AplicarIdioma();
     if (f.splash) f.splash->AplicarIdioma();
     if (f.cpu) f.cpu->AplicarIdioma();
+    if (f.conexion) f.conexion->AplicarIdioma();
+    if (f.ip) f.ip->AplicarIdioma();
+    if (f.nuevo) f.nuevo->AplicarIdioma();
     TraducirQt();
     // The forms that read their own texts (the board's, the browsers) read them again now.
     for (QWidget* w : QApplication::topLevelWidgets()) {

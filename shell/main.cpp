@@ -4,6 +4,7 @@
 #include "shell/ficheros_programa.h"
 #include "shell/formularios.h"
 #include "shell/mdi.h"
+#include "shell/red_programa.h"
 #include "shell/tablero_programa.h"
 
 #include <QApplication>
@@ -21,8 +22,10 @@ int main(int argc, char** argv) {
     qa::InstalarEntornoPrograma();
     qa::InstalarTablero();
     qa::InstalarFicheros();
+    qa::InstalarRedPrograma();
     int codigo = 0;
     if (qa::Main(argumentos)) codigo = app.exec();
+    qa::TerminarRedPrograma();
     qa::LiberarFormularios();
     return codigo;
 }

@@ -135,6 +135,7 @@ void Mdi::AbrirFichero(const std::string& ruta) {
         nombre = r.fichero;
     }
     if (!ExisteRutaUsuario(nombre)) return;
+    if (en.AbrirEnRed && en.AbrirEnRed(nombre)) return;
     const std::string bajo = Minusculas(nombre);
     if (TerminaEn(bajo, ".pgn")) {
         if (!Variables::Conectado && en.CargarPgn) en.CargarPgn(nombre);

@@ -108,7 +108,10 @@ TEST(Programa, ClosingWhileConnectedWaitsAndSavesOnTheSecondClose) {
     const std::string antes = c.Leer("Default.ini");
     Variables::Conectado = true;
     int desconexiones = 0;
-    Enlace().Desconectar = [&] { ++desconexiones; };
+    Enlace().CerrarRed = [&] {
+        ++desconexiones;
+        return !Variables::Conectado;
+    };
     Marcar("mnuReloj", false);
 
     EXPECT_FALSE(Forms().mdi->close());
