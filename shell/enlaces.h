@@ -15,8 +15,8 @@ struct Enlaces {
     std::function<void(const std::string&)> CargarPgn, AbrirQtr, AbrirEpd;
     // The open command while connected: true when the network took the file (or refused it).
     std::function<bool(const std::string&)> AbrirEnRed;
-    // The forms are made: the layers hook their handlers up.
-    std::function<void()> FormulariosCreados;
+    // The forms are made: the layers hook their handlers up; the settings are read into them.
+    std::function<void()> FormulariosCreados, OpcionesLeidas;
 
     // State owned by other forms. Whether a peer is connected is the core's Conectado; whether
     // the PGN browser or the engine form is up, the core's listas() and motor() say.

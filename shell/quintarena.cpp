@@ -69,6 +69,7 @@ void Quintarena::Cargar() {
         return;
     }
     LeerOpciones();
+    Ejecutar(Enlace().OpcionesLeidas);
 
     splash->Estado("Cargando idioma...");
     Opciones* op = f.opciones;

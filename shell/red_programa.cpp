@@ -262,6 +262,7 @@ void InstalarRedPrograma() {
     auto& en = Enlace();
 
     en.FormulariosCreados = [&s] { EnlazarFormas(s); };
+    en.OpcionesLeidas = [&s] { s.Nick = Controles().Nick; };
     en.CambiarNick = [&s] {
         s.Nick = Controles().Nick;
         s.CambiarNick();

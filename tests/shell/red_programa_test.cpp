@@ -1,0 +1,284 @@
+// The whole program over a real connection on the loopback: the program offscreen in this process,
+// the other side a plain socket of the test speaking the wire protocol, one message per write.
+// Both use the program's fixed ports.
+#include "prueba_programa.h"
+
+#include "board/lista_jugadas.h"
+#include "board/vista_tablero.h"
+#include "core/game_state.h"
+#include "language/idioma.h"
+#include "net/puntuacion.h"
+#include "net/sesion.h"
+#include "shell/arranque.h"
+#include "shell/chat.h"
+#include "shell/entorno_programa.h"
+#include "shell/ficheros_programa.h"
+#include "shell/formas_red.h"
+#include "shell/formularios.h"
+#include "shell/jugadas.h"
+#include "shell/mdi.h"
+#include "shell/quintarena.h"
+#include "shell/ranking.h"
+#include "shell/red_programa.h"
+#include "shell/tablero_programa.h"
+
+#include <QAction>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <string>
+#include <vector>
+
+using namespace qa;
+using namespace Variables;
+
+namespace {
+
+constexpr int kEspera = 15000; // ms: the pump sends one message each 300 ms
+
+// The peer: every read is one message, as the program paces them.
+class Par {
+public:
+    explicit Par(QTcpSocket* s) : s_(s) {
+        QObject::connect(s_, &QTcpSocket::readyRead, s_,
+                         [this] { recibidos.push_back(s_->readAll().toStdString()); });
+        QObject::connect(s_, &QTcpSocket::disconnected, s_, [this] { cerrado = true; });
+    }
+    QTcpSocket& Socket() { return *s_; }
+    // One message in one write, on the wire before anything else is sent.
+    void Enviar(const std::string& texto) {
+        s_->write(texto.data(), static_cast<qint64>(texto.size()));
+        EXPECT_TRUE(prueba::Esperar([this] { return s_->bytesToWrite() == 0; }, kEspera));
+    }
+    // Waits for the program's next message and returns it.
+    std::string Siguiente() {
+        EXPECT_TRUE(prueba::Esperar([this] { return leidos_ < recibidos.size(); }, kEspera))
+            << "nothing more came after " << leidos_ << " messages";
+        return leidos_ < recibidos.size() ? recibidos[leidos_++] : std::string();
+    }
+    std::vector<std::string> recibidos;
+    bool cerrado = false;
+
+private:
+    QTcpSocket* s_;
+    std::size_t leidos_ = 0;
+};
+
+class ProgramaEnRed : public ::testing::Test {
+protected:
+    prueba::Carpeta carpeta;
+    prueba::Cajas cajas;
+    VistaTablero* vista = nullptr;
+
+    void SetUp() override {
+        // Another program on the fixed ports would fail every step below for a reason not ours.
+        QTcpServer sonda;
+        if (!sonda.listen(QHostAddress::Any, 1500))
+            FAIL() << "port 1500 is taken by another program: "
+                   << sonda.errorString().toStdString();
+        sonda.close();
+        QTcpSocket sonda2;
+        if (!sonda2.bind(QHostAddress::Any, 1501, QAbstractSocket::ShareAddress))
+            FAIL() << "port 1501 is taken by another program: "
+                   << sonda2.errorString().toStdString();
+
+        carpeta.Ajustar("Configuracion", "Nick", "Ana");
+        InstalarEntornoPrograma();
+        InstalarTablero();
+        InstalarFicheros();
+        InstalarRedPrograma();
+        ASSERT_TRUE(Main({"quintarena"}));
+        vista = qobject_cast<VistaTablero*>(Forms().quintarena->PicBuffer());
+        ASSERT_NE(vista, nullptr);
+        ASSERT_TRUE(prueba::Esperar([&] { return vista->isVisible(); }));
+    }
+    void TearDown() override {
+        if (Forms().mdi) Forms().mdi->close();
+        TerminarRedPrograma();
+        RestablecerTodo();
+    }
+
+    QPoint Centro(const char* casilla) const {
+        PicBuffer* p = vista->Picture();
+        const auto [c, f] = p->Convertir(casilla[0] - 'a' + 1, casilla[1] - '0');
+        return p->Esquina(c, f) + QPoint(p->AnchoCasilla / 2, p->AltoCasilla / 2);
+    }
+    void Arrastrar(const char* jugada) {
+        PicBuffer* p = vista->Picture();
+        const QPoint a = Centro(jugada), b = Centro(jugada + 2);
+        QTest::mousePress(p, Qt::LeftButton, {}, a);
+        QTest::mouseMove(p, (a + b) / 2);
+        QTest::mouseMove(p, b);
+        QTest::mouseRelease(p, Qt::LeftButton, {}, b);
+    }
+    static std::string Chat() { return Forms().chat->ChatList()->toPlainText().toStdString(); }
+    static bool Contiene(const std::string& texto, const std::string& parte) {
+        return texto.find(parte) != std::string::npos;
+    }
+    static std::string Lista() { return Forms().jugadas->Lista()->Texto().toStdString(); }
+    std::vector<int32_t> Record() const {
+        const std::string b = carpeta.Leer("Puntuacion.dat");
+        const RegistroPuntuacion r = DesdeBytes(b);
+        EXPECT_EQ(b.size(), 20u);
+        return {r.PartidasJugadas, r.PartidasGanadas, r.PartidasPerdidas, r.PartidasTablas,
+                r.Puntos};
+    }
+    // What the program says when a link comes up: the greeting, its version, later its record.
+    static void Saludo(Par& par, const std::string& record) {
+        EXPECT_EQ(par.Siguiente(),
+                  "Mensaje Ana " + Mensajes[42] + " Quintarena " + Mensajes[40] + " 1.55");
+        EXPECT_EQ(par.Siguiente(), "VersionQT 1.55");
+        EXPECT_EQ(par.Siguiente(), "Ranking " + record);
+    }
+};
+
+TEST_F(ProgramaEnRed, ARatedGameCalledFromTheDialogAndPlayedToMate) {
+    QTcpServer espera;
+    ASSERT_TRUE(espera.listen(QHostAddress::Any, 1500));
+
+    // The connection dialog, as the user fills it in: an address and go. While the call is on,
+    // only the calling caption and the cancel button are left; the link hides the dialog.
+    bool llamando = false;
+    prueba::AlAbrirse("qa::Conexion", [&](QWidget* w) {
+        auto* c = static_cast<Conexion*>(w);
+        EXPECT_TRUE(c->Option1->isChecked());
+        QTest::mouseClick(c->Command1, Qt::LeftButton);
+        EXPECT_TRUE(cajas.Hay(Mensajes[13])) << "an empty address is refused";
+        c->Ip->setText("127.0.0.1");
+        QTest::keyClick(c->Ip, Qt::Key_Return);
+        llamando = c->Label2->isVisible() && !c->Command1->isEnabled() && !c->Frame2->isVisible();
+    });
+    Entrada("mnuEstablecerconexion")->trigger();
+    EXPECT_TRUE(llamando);
+    ASSERT_TRUE(Conectado);
+    EXPECT_FALSE(Forms().conexion->isVisible());
+    ASSERT_TRUE(prueba::Esperar([&] { return espera.hasPendingConnections(); }));
+    Par par(espera.nextPendingConnection());
+    espera.close();
+    EXPECT_EQ(par.Socket().peerPort(), 1501) << "the caller's fixed port";
+    EXPECT_TRUE(Contiene(Chat(), "*** " + Mensajes[39]));
+    Saludo(par, "0-0-0-0-1200");
+
+    // The peer's greeting, version and record.
+    par.Enviar("Mensaje Bea " + Mensajes[42] + " Quintarena " + Mensajes[40] + " 1.55");
+    ASSERT_TRUE(prueba::Esperar([] { return Contiene(Chat(), "Bea " + Mensajes[42]); }));
+    EXPECT_EQ(Sesion()->VersionRemota(), "1.55");
+    par.Enviar("VersionQT 1.55");
+    par.Enviar("Ranking 3-2-1-0-1250");
+    ASSERT_TRUE(prueba::Esperar([] { return PuntuacionRemota.Puntos == 1250; }));
+    EXPECT_TRUE(Forms().ranking->Label(9)->text().endsWith(" 1250"));
+
+    // A rated game of 5 minutes, the peer Black: the question, the answer, the board.
+    cajas.respuestas = {kRespuestaSi};
+    par.Enviar("NuevoJuego 2 R 5");
+    ASSERT_TRUE(prueba::Esperar([] { return TipoPartida == "R"; }));
+    EXPECT_EQ(par.Siguiente(), "NuevoAceptado");
+    EXPECT_EQ(ColorJugador, "Blancas");
+    EXPECT_EQ(Turno, 1);
+    EXPECT_TRUE(Contiene(cajas.vistas.back().texto, " 5 ")) << cajas.vistas.back().texto;
+
+    const QRegularExpression tiempo("^TIME [0-5]:[0-9]{1,2}$");
+    Arrastrar("f2f3");
+    EXPECT_EQ(Turno, 0) << "the peer's move now";
+    EXPECT_EQ(par.Siguiente(), "Movimiento 62630");
+    EXPECT_TRUE(tiempo.match(QString::fromStdString(par.Siguiente())).hasMatch());
+    Arrastrar("e2e4");
+    EXPECT_EQ(Tablero[5][2], PeonB) << "no move out of turn";
+
+    par.Enviar("Movimiento 57550");
+    ASSERT_TRUE(prueba::Esperar([] { return Turno == 1; }));
+    EXPECT_EQ(Tablero[5][5], PeonN);
+    par.Enviar("TIME 4:58");
+    ASSERT_TRUE(prueba::Esperar([] { return MinutosNegras == 4 && SegundosNegras == 58; }));
+
+    Arrastrar("g2g4");
+    EXPECT_EQ(par.Siguiente(), "Movimiento 72740");
+    EXPECT_TRUE(tiempo.match(QString::fromStdString(par.Siguiente())).hasMatch());
+
+    par.Enviar("Movimiento 48840");
+    ASSERT_TRUE(prueba::Esperar([] { return TipoPartida.empty(); }));
+    EXPECT_EQ(Tablero[8][4], DamaN);
+    EXPECT_EQ(Turno, 0);
+    EXPECT_TRUE(cajas.Hay(Mensajes[2])) << "Black has won";
+    EXPECT_TRUE(Contiene(Lista(), "2. g4")) << Lista();
+    EXPECT_TRUE(Contiene(Lista(), "Dh4++")) << Lista();
+    // A loss to a stronger player costs half: 1150, and the peer's record shows its win.
+    EXPECT_EQ(Record(), (std::vector<int32_t>{1, 0, 1, 0, 1150}));
+    EXPECT_EQ(PuntuacionRemota.PartidasGanadas, 3);
+    EXPECT_EQ(PuntuacionRemota.Puntos, 1300);
+    EXPECT_TRUE(Forms().ranking->Label(4)->text().endsWith(" 1150"));
+
+    // The link ends from the waiting side.
+    par.Socket().disconnectFromHost();
+    ASSERT_TRUE(prueba::Esperar([] { return !Conectado; }));
+    EXPECT_TRUE(Contiene(Chat(), "*** " + Mensajes[41]));
+    EXPECT_EQ(Sesion()->VersionRemota(), "");
+    EXPECT_EQ(Tablero[8][4], DamaN) << "the board stays as it is";
+}
+
+TEST_F(ProgramaEnRed, WaitingForACallChattingAndAnAgreedDrawInAFreeGame) {
+    // The dialog waits on 1500; a caller from any port is taken.
+    prueba::AlAbrirse("qa::Conexion", [&](QWidget* w) {
+        auto* c = static_cast<Conexion*>(w);
+        QTest::mouseClick(c->Option2, Qt::LeftButton);
+        EXPECT_FALSE(c->Ip->isEnabled());
+        QTest::mouseClick(c->Command1, Qt::LeftButton);
+        EXPECT_TRUE(c->Label1->isVisible());
+        EXPECT_FALSE(c->Command1->isEnabled());
+        auto* llamada = new QTcpSocket(c);
+        llamada->setObjectName("llamada");
+        llamada->connectToHost("127.0.0.1", 1500);
+    });
+    Entrada("mnuEstablecerconexion")->trigger();
+    ASSERT_TRUE(Conectado) << (cajas.vistas.empty() ? "" : cajas.vistas.back().texto);
+    ASSERT_TRUE(Sesion()->EsServidor());
+    auto* llamada = Forms().conexion->findChild<QTcpSocket*>("llamada");
+    ASSERT_NE(llamada, nullptr);
+    llamada->setParent(nullptr);
+    std::unique_ptr<QTcpSocket> dueno(llamada);
+    Par par(llamada);
+    EXPECT_NE(llamada->localPort(), 1501);
+    Saludo(par, "0-0-0-0-1200");
+
+    // Chat both ways; the program's line carries its nick.
+    par.Enviar("Mensaje <Bea>hola");
+    ASSERT_TRUE(prueba::Esperar([] { return Contiene(Chat(), "<Bea>hola"); }));
+    QLineEdit* texto = Forms().chat->Texto();
+    QTest::keyClicks(texto, " buenas");
+    EXPECT_EQ(texto->text(), "buenas") << "a line does not begin with a space";
+    QTest::keyClick(texto, Qt::Key_Return);
+    EXPECT_TRUE(texto->text().isEmpty());
+    EXPECT_EQ(par.Siguiente(), "Mensaje <Ana>buenas");
+    EXPECT_TRUE(Contiene(Chat(), "<Ana>buenas"));
+
+    // A free game, the peer White: nothing is scored when it ends in a draw.
+    cajas.respuestas = {kRespuestaSi};
+    par.Enviar("NuevoJuego 1 A 0");
+    ASSERT_TRUE(prueba::Esperar([] { return TipoPartida == "A"; }));
+    EXPECT_EQ(par.Siguiente(), "NuevoAceptado");
+    EXPECT_EQ(ColorJugador, "Negras");
+    cajas.respuestas = {kRespuestaSi};
+    Entrada("mnuOfrecerTablas")->trigger();
+    EXPECT_EQ(par.Siguiente(), "OfrecerTablas");
+    par.Enviar("TablasAceptadas");
+    ASSERT_TRUE(prueba::Esperar([] { return TipoPartida.empty(); }));
+    EXPECT_TRUE(cajas.Hay(Mensajes[19]));
+    EXPECT_EQ(Record(), (std::vector<int32_t>{0, 0, 0, 0, 1200}));
+
+    // The caller says it goes; the waiting side closes the link.
+    par.Enviar("Close");
+    ASSERT_TRUE(prueba::Esperar([&] { return !Conectado && par.cerrado; }));
+    EXPECT_TRUE(Contiene(Chat(), "*** " + Mensajes[41]));
+}
+
+} // namespace
