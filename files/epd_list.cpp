@@ -88,7 +88,7 @@ bool EventosDblClick(int32_t i) {
     if (i < 0 || i >= static_cast<int32_t>(Eventos.size())) return false;
     PosicionFen = Eventos[static_cast<size_t>(i)];
     EpdEnviado = true;
-    if (Conectado) return false;
+    // Over the network the opening asks for a colour and sends the position to the peer.
     AbrirEpd();
     Cerrar();
     return true;

@@ -68,6 +68,19 @@ TEST_F(Epd, DoubleClickOpensTheGame) {
     EXPECT_EQ(Tablero[5][4], PeonB);
 }
 
+TEST_F(Epd, DoubleClickWhileConnectedAsksTheColourAndSendsThePosition) {
+    ASSERT_TRUE(FEpd::LeerEPD(Escribir("h.epd", std::string(kOtra) + "\n")));
+    Conectado = true;
+    entorno.colorRed = 2;
+    ASSERT_TRUE(FEpd::EventosDblClick(0));
+    EXPECT_EQ(entorno.alRival, (std::vector<std::string>{"PreguntarColor", "EnviarPosicion"}));
+    EXPECT_EQ(ColorJugador, "Negras");
+    EXPECT_EQ(Turno, 2) << "Black to move, and the player took Black";
+    EXPECT_FALSE(Cargando);
+    EXPECT_FALSE(FEpd::VistaEpd);
+    Conectado = false;
+}
+
 TEST_F(Epd, ClosingWithoutOpeningGivesACleanBoard) {
     ASSERT_TRUE(FEpd::LeerEPD(Escribir("g.epd", std::string(kBuena) + "\n")));
     EXPECT_EQ(Tablero[1][1], TorreB);
