@@ -1,5 +1,6 @@
 #include "shell/servicios.h"
 
+#include "core/environment.h"
 #include "language/idioma.h"
 #include "platform/escritura.h"
 #include "platform/programa.h"
@@ -15,9 +16,11 @@
 #include <QAction>
 #include <QBuffer>
 #include <QCursor>
+#include <QDate>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
+#include <QLocale>
 #include <QMenu>
 #include <QMessageBox>
 #include <QPixmap>
@@ -193,7 +196,7 @@ void GuardarImagen() {
 }
 
 void GuardarChat() {
-    if (Cierto(Enlace().SetTableroVisible)) return;
+    if (Cierto(Enlace().SetTableroVisible) || motor().CpuVisible()) return;
     auto r =
         DialogoFichero(2, Mensajes[45], "Chat", {{"*.txt", "*.txt"}, {" (*.*)", "*.*"}}, 1, "");
     if (r.fichero.empty()) return;
@@ -201,7 +204,11 @@ void GuardarChat() {
         AvisoNoEscribible(r.fichero);
         return;
     }
-    const QByteArray texto = Forms().chat ? Forms().chat->TextoChat().toUtf8() : QByteArray();
+    // A heading with the day, then the lines as the chat shows them.
+    QString chat = Forms().chat ? Forms().chat->TextoChat() : QString();
+    chat.replace("\n", FinLinea);
+    const QString dia = QLocale().toString(QDate::currentDate(), QLocale::LongFormat);
+    const QByteArray texto = ("Quintarena. " + dia + FinLinea + chat).toUtf8();
     if (!EscribirFichero(r.fichero, std::string_view(texto.constData(),
                                                      static_cast<std::size_t>(texto.size())))) {
         AvisoNoEscribible(r.fichero);

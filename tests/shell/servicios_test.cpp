@@ -9,6 +9,7 @@
 #include "platform/programa.h"
 #include "shell/arranque.h"
 #include "shell/barra_estado.h"
+#include "shell/chat.h"
 #include "shell/configuracion.h"
 #include "shell/enlaces.h"
 #include "shell/formularios.h"
@@ -24,6 +25,7 @@
 #include <QDate>
 #include <QDesktopServices>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <QTest>
 #include <QUrl>
 #include <gtest/gtest.h>
@@ -190,8 +192,11 @@ TEST_F(Arrancado, SavedChatAndPictureGoThroughTheDialog) {
         r.fichero = c.Ruta("Charla.TXT").string();
         return r;
     });
+    Forms().chat->ChatList()->setPlainText("*** Conectado\n<Ana>hola");
     Entrada("mnuGuararChat")->trigger();
-    EXPECT_TRUE(fs::exists(c.Ruta("Charla.TXT")));
+    const std::string guardado = c.Leer("Charla.TXT");
+    EXPECT_EQ(guardado.rfind("Quintarena. ", 0), 0u) << guardado;
+    EXPECT_NE(guardado.find("\r\n*** Conectado\r\n<Ana>hola"), std::string::npos) << guardado;
     EXPECT_EQ(cajas.vistas.back().texto, Mensajes[33]);
     FijarPresentadorDialogos([this](int, const std::string&) {
         RespuestaDialogo r;
