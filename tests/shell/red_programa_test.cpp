@@ -9,6 +9,7 @@
 #include "language/idioma.h"
 #include "net/puntuacion.h"
 #include "net/sesion.h"
+#include "platform/ini_file.h"
 #include "shell/arranque.h"
 #include "shell/chat.h"
 #include "shell/entorno_programa.h"
@@ -279,6 +280,38 @@ TEST_F(ProgramaEnRed, WaitingForACallChattingAndAnAgreedDrawInAFreeGame) {
     par.Enviar("Close");
     ASSERT_TRUE(prueba::Esperar([&] { return !Conectado && par.cerrado; }));
     EXPECT_TRUE(Contiene(Chat(), "*** " + Mensajes[41]));
+}
+
+TEST_F(ProgramaEnRed, ClosingTheCallingSideWaitsForThePeerToEndTheLink) {
+    QTcpServer espera;
+    ASSERT_TRUE(espera.listen(QHostAddress::Any, 1500));
+    prueba::AlAbrirse("qa::Conexion", [](QWidget* w) {
+        auto* c = static_cast<Conexion*>(w);
+        c->Ip->setText("127.0.0.1");
+        QTest::mouseClick(c->Command1, Qt::LeftButton);
+    });
+    Entrada("mnuEstablecerconexion")->trigger();
+    ASSERT_TRUE(Conectado);
+    ASSERT_TRUE(prueba::Esperar([&] { return espera.hasPendingConnections(); }));
+    Par par(espera.nextPendingConnection());
+    espera.close();
+    Saludo(par, "0-0-0-0-1200");
+    Marcar("mnuReloj", false);
+    const std::string antes = carpeta.Leer("Default.ini");
+
+    // The first close only asks the peer to end the link, and saves nothing yet.
+    EXPECT_FALSE(Forms().mdi->close());
+    EXPECT_TRUE(CierrePendiente);
+    EXPECT_FALSE(FinPrograma());
+    EXPECT_EQ(par.Siguiente(), "Close");
+    EXPECT_TRUE(Conectado) << "the caller waits for the waiting side";
+    EXPECT_EQ(carpeta.Leer("Default.ini"), antes);
+
+    // The peer ends it: the close runs again, and this time it goes through.
+    par.Socket().disconnectFromHost();
+    ASSERT_TRUE(prueba::Esperar([] { return FinPrograma(); }));
+    EXPECT_FALSE(Conectado);
+    EXPECT_EQ(LeerIni(carpeta.Ruta("Default.ini").string(), "Configuracion", "Reloj"), "0");
 }
 
 } // namespace
