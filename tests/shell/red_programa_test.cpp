@@ -34,6 +34,7 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 #include <QTest>
+#include <QToolButton>
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -126,6 +127,8 @@ protected:
     static bool Contiene(const std::string& texto, const std::string& parte) {
         return texto.find(parte) != std::string::npos;
     }
+    // Where a click on a radio button lands: on its round mark.
+    static QPoint Marca(QWidget* opcion) { return {8, opcion->height() / 2}; }
     static std::string Lista() { return Forms().jugadas->Lista()->Texto().toStdString(); }
     std::vector<int32_t> Record() const {
         const std::string b = carpeta.Leer("Puntuacion.dat");
@@ -231,7 +234,7 @@ TEST_F(ProgramaEnRed, WaitingForACallChattingAndAnAgreedDrawInAFreeGame) {
     // The dialog waits on 1500; a caller from any port is taken.
     prueba::AlAbrirse("qa::Conexion", [&](QWidget* w) {
         auto* c = static_cast<Conexion*>(w);
-        QTest::mouseClick(c->Option2, Qt::LeftButton);
+        QTest::mouseClick(c->Option2, Qt::LeftButton, {}, Marca(c->Option2));
         EXPECT_FALSE(c->Ip->isEnabled());
         QTest::mouseClick(c->Command1, Qt::LeftButton);
         EXPECT_TRUE(c->Label1->isVisible());
@@ -280,6 +283,43 @@ TEST_F(ProgramaEnRed, WaitingForACallChattingAndAnAgreedDrawInAFreeGame) {
     par.Enviar("Close");
     ASSERT_TRUE(prueba::Esperar([&] { return !Conectado && par.cerrado; }));
     EXPECT_TRUE(Contiene(Chat(), "*** " + Mensajes[41]));
+}
+
+TEST_F(ProgramaEnRed, TheNewGameDialogKeepsItsMinutesBetween1And180) {
+    carpeta.Ajustar("Configuracion", "Tiempo", "0");
+    Nuevo* n = Forms().nuevo;
+    n->show();
+    ASSERT_TRUE(prueba::Esperar([n] { return n->isVisible(); }));
+    EXPECT_TRUE(n->Option1->isChecked());
+    EXPECT_TRUE(n->Option3->isChecked());
+    EXPECT_EQ(n->Text1->text(), "1") << "a time of 0 in the settings offers 1";
+
+    n->Text1->selectAll();
+    QTest::keyClicks(n->Text1, "9x9-9");
+    EXPECT_EQ(n->Text1->text(), "180");
+    QTest::mouseClick(n->Command4[0], Qt::LeftButton);
+    EXPECT_EQ(n->Text1->text(), "180");
+    QTest::mouseClick(n->Command4[1], Qt::LeftButton);
+    EXPECT_EQ(n->Text1->text(), "179");
+    n->Text1->setText("007");
+    EXPECT_EQ(n->Text1->text(), "7") << "no leading zeros";
+
+    QTest::mouseClick(n->Option4, Qt::LeftButton, {}, Marca(n->Option4));
+    EXPECT_EQ(n->Text1->text(), "0");
+    EXPECT_FALSE(n->Text1->isEnabled());
+    EXPECT_FALSE(n->Command4[0]->isEnabled());
+    EXPECT_TRUE(n->Option4->isChecked());
+    EXPECT_FALSE(n->Option3->isChecked());
+    QTest::mouseClick(n->Option2, Qt::LeftButton, {}, Marca(n->Option2));
+    EXPECT_TRUE(n->Option2->isChecked());
+    EXPECT_FALSE(n->Option1->isChecked()) << "colour and kind are two separate choices";
+    EXPECT_TRUE(n->Option4->isChecked());
+
+    // Not connected, OK sends nothing and only closes the dialog.
+    QTest::mouseClick(n->Command1, Qt::LeftButton);
+    EXPECT_FALSE(n->isVisible());
+    EXPECT_FALSE(Sesion()->NuevoPendiente());
+    EXPECT_EQ(Sesion()->ColaEnvioCuenta(), 0);
 }
 
 TEST_F(ProgramaEnRed, ClosingTheCallingSideWaitsForThePeerToEndTheLink) {
