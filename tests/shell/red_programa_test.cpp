@@ -52,9 +52,9 @@ constexpr int kEspera = 15000; // ms: the pump sends one message each 300 ms
 class Par {
 public:
     explicit Par(QTcpSocket* s) : s_(s) {
-        QObject::connect(s_, &QTcpSocket::readyRead, s_,
+        QObject::connect(s_, &QTcpSocket::readyRead, &contexto_,
                          [this] { recibidos.push_back(s_->readAll().toStdString()); });
-        QObject::connect(s_, &QTcpSocket::disconnected, s_, [this] { cerrado = true; });
+        QObject::connect(s_, &QTcpSocket::disconnected, &contexto_, [this] { cerrado = true; });
     }
     QTcpSocket& Socket() { return *s_; }
     // One message in one write, on the wire before anything else is sent.
@@ -72,6 +72,7 @@ public:
     bool cerrado = false;
 
 private:
+    QObject contexto_; // the socket may outlive us
     QTcpSocket* s_;
     std::size_t leidos_ = 0;
 };
@@ -129,6 +130,25 @@ protected:
     }
     // Where a click on a radio button lands: on its round mark.
     static QPoint Marca(QWidget* opcion) { return {8, opcion->height() / 2}; }
+    // The program waits on 1500 and the peer of the test calls it; the greeting is read.
+    std::unique_ptr<Par> Esperado() {
+        prueba::AlAbrirse("qa::Conexion", [](QWidget* w) {
+            auto* c = static_cast<Conexion*>(w);
+            QTest::mouseClick(c->Option2, Qt::LeftButton, {}, Marca(c->Option2));
+            QTest::mouseClick(c->Command1, Qt::LeftButton);
+            auto* llamada = new QTcpSocket(c);
+            llamada->setObjectName("llamada");
+            llamada->connectToHost("127.0.0.1", 1500);
+        });
+        Entrada("mnuEstablecerconexion")->trigger();
+        EXPECT_TRUE(Conectado);
+        auto* llamada = Forms().conexion->findChild<QTcpSocket*>("llamada");
+        EXPECT_NE(llamada, nullptr);
+        llamada->setParent(Forms().mdi);
+        auto par = std::make_unique<Par>(llamada);
+        Saludo(*par, "0-0-0-0-1200");
+        return par;
+    }
     static std::string Lista() { return Forms().jugadas->Lista()->Texto().toStdString(); }
     std::vector<int32_t> Record() const {
         const std::string b = carpeta.Leer("Puntuacion.dat");
@@ -283,6 +303,77 @@ TEST_F(ProgramaEnRed, WaitingForACallChattingAndAnAgreedDrawInAFreeGame) {
     par.Enviar("Close");
     ASSERT_TRUE(prueba::Esperar([&] { return !Conectado && par.cerrado; }));
     EXPECT_TRUE(Contiene(Chat(), "*** " + Mensajes[41]));
+}
+
+TEST_F(ProgramaEnRed, AGameFileOpenedWhileConnectedReplaysForBothBoards) {
+    auto par = Esperado();
+    carpeta.Escribir("corta.qtr", "0000\r\n0000\r\nA\r\n5254\r\n5755\r\n7163\r\n");
+    // The colour question at the end, "... (W/B)": the first of its two letters is White. A
+    // refused answer would be asked again for ever: each answer after the first is White's
+    // lower-cased, which is taken too, and counted.
+    const std::string pregunta = Mensajes[59];
+    ASSERT_GE(pregunta.size(), 4u);
+    const char blancas = pregunta[pregunta.size() - 4];
+    int preguntas = 0;
+    FijarPresentadorTextos([&](const std::string&) {
+        return std::string(1, ++preguntas == 1 ? blancas : static_cast<char>(blancas | 0x20));
+    });
+    FijarPresentadorDialogos([&](int, const std::string&) {
+        RespuestaDialogo r;
+        r.fichero = carpeta.Ruta("corta.qtr").string();
+        r.carpeta = carpeta.Ruta().string();
+        return r;
+    });
+    Entrada("mnuAbrirPartida")->trigger();
+    FijarPresentadorDialogos(nullptr);
+    EXPECT_TRUE(Cargando);
+    std::vector<std::string> transferencia;
+    while (transferencia.empty() || transferencia.back() != "QTR Terminado") {
+        const std::string m = par->Siguiente();
+        if (m.empty()) break;
+        if (m.rfind("QTR", 0) == 0) transferencia.push_back(m);
+    }
+    FijarPresentadorTextos(nullptr);
+    EXPECT_EQ(preguntas, 1);
+    EXPECT_EQ(transferencia,
+              (std::vector<std::string>{"QTR Iniciar", "QTR TB 0000", "QTR TN 0000", "QTR T A",
+                                        "QTR M 5254", "QTR M 5755", "QTR M 7163", "QTR T N",
+                                        "QTR T 2", "QTR Terminado"}));
+    ASSERT_TRUE(prueba::Esperar([] { return !Cargando; }));
+    EXPECT_EQ(ColorJugador, "Blancas");
+    EXPECT_EQ(Turno, 0) << "Black, the peer, is to move";
+    EXPECT_EQ(TipoPartida, "A");
+    EXPECT_EQ(Tablero[6][3], CaballoB);
+    EXPECT_TRUE(Contiene(Lista(), "2. Cf3")) << Lista();
+}
+
+TEST_F(ProgramaEnRed, APeersOfferCutsADragShortAndThePieceGoesBack) {
+    auto par = Esperado();
+    cajas.respuestas = {kRespuestaSi};
+    par->Enviar("NuevoJuego 2 A 0");
+    ASSERT_TRUE(prueba::Esperar([] { return TipoPartida == "A" && Turno == 1; }));
+    EXPECT_EQ(par->Siguiente(), "NuevoAceptado");
+
+    // The user holds the king's pawn over e4 when the offer comes.
+    PicBuffer* p = vista->Picture();
+    QTest::mousePress(p, Qt::LeftButton, {}, Centro("e2"));
+    QTest::mouseMove(p, Centro("e3"));
+    QTest::mouseMove(p, Centro("e4"));
+    ASSERT_TRUE(p->Arrastrando());
+    cajas.respuestas = {kRespuestaNo};
+    par->Enviar("OfrecerTablas");
+    EXPECT_EQ(par->Siguiente(), "TablasCancelado");
+    EXPECT_FALSE(p->Arrastrando());
+    EXPECT_TRUE(Origen.empty());
+    QTest::mouseRelease(p, Qt::LeftButton, {}, Centro("e4"));
+    EXPECT_EQ(Tablero[5][2], PeonB) << "the pawn is back and was not played";
+    EXPECT_EQ(Tablero[5][4], 0);
+    EXPECT_EQ(Turno, 1);
+
+    // The move is made again, from the start.
+    Arrastrar("e2e4");
+    EXPECT_EQ(par->Siguiente(), "Movimiento 52540");
+    EXPECT_EQ(TipoPartida, "A") << "a free game has no clocks and no time messages";
 }
 
 TEST_F(ProgramaEnRed, TheNewGameDialogKeepsItsMinutesBetween1And180) {
