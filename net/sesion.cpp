@@ -589,6 +589,8 @@ bool SesionRed::Impl::Movimiento() {
     FiltroMovimiento();
     if (!AlPasoTexto.empty() && MovimientoValido) SubComoFicha(AlPasoTexto);
     if (MovimientoValido) {
+        // The drawing takes screen squares, as after a move made on this board.
+        if (TipoEnroque == 0) InvertirMovimiento();
         RematarJugada();
         if (ColorJugador == "Negras") Turno = 2;
         if (ColorJugador == "Blancas") Turno = 1;

@@ -291,6 +291,18 @@ TEST_F(ProgramaEnRed, WaitingForACallChattingAndAnAgreedDrawInAFreeGame) {
     ASSERT_TRUE(prueba::Esperar([] { return TipoPartida == "A"; }));
     EXPECT_EQ(par.Siguiente(), "NuevoAceptado");
     EXPECT_EQ(ColorJugador, "Negras");
+    // Black sees the board from Black's side; the peer's move is drawn where it went.
+    PicBuffer* p = vista->Picture();
+    ASSERT_TRUE(p->invertido);
+    par.Enviar("Movimiento 52540");
+    ASSERT_TRUE(prueba::Esperar([] { return Turno == 2; }));
+    EXPECT_EQ(Tablero[5][4], PeonB);
+    const auto [c, f] = p->Convertir(5, 4);
+    EXPECT_EQ(p->MarcoEn(1), QPoint(c, f)) << "the frame on e4 as this side sees it";
+    const QPoint e4 = p->Esquina(c, f) + QPoint(p->AnchoCasilla / 2, p->AltoCasilla / 2);
+    const QRgb peon = p->Imagen().pixel(Centro("a2"));
+    EXPECT_EQ(p->Imagen().pixel(e4), peon) << "a white pawn on e4";
+    EXPECT_NE(p->Imagen().pixel(Centro("d5")), peon) << "and none on d5";
     cajas.respuestas = {kRespuestaSi};
     Entrada("mnuOfrecerTablas")->trigger();
     EXPECT_EQ(par.Siguiente(), "OfrecerTablas");
