@@ -1,7 +1,6 @@
 #include "shell/entorno_programa.h"
 
 #include "core/environment.h"
-#include "core/peer.h"
 #include "language/idioma.h"
 #include "shell/formularios.h"
 #include "shell/reloj.h"
@@ -42,30 +41,11 @@ private:
     }
 };
 
-// The peer while the program cannot connect: Conectado never becomes true, so the callers, which
-// ask for it first, never get here. A message with nobody to take it is dropped, as a send is
-// when there is no connection; the network layer puts its own peer here.
-class SinConexion final : public EntornoRed {
-public:
-    void EnviarMovimiento(int, int, int, int, int32_t) override {}
-    void EnviarInicioPartida() override {}
-    void EnviarLineaPartida(LineaPartida, const std::string&) override {}
-    void EnviarErrorPartida() override {}
-    void EnviarLadoRival(int, int) override {}
-    void EnviarFinPartida() override {}
-    void CancelarEpd() override {}
-    void EnviarPosicion() override {}
-    int PreguntarColor() override { return 1; }
-    void SumaDePartidas(int) override {} // only a rated game over the network is scored
-};
-
 } // namespace
 
 void InstalarEntornoPrograma() {
     static DialogosPrograma dialogos;
-    static SinConexion red;
     InstalarDialogos(&dialogos);
-    InstalarRed(&red);
 }
 
 } // namespace qa

@@ -1,7 +1,7 @@
 #pragma once
 // The program's side of the game core's doors, but for the board's picture (installed with the
-// board) and the lists (installed with the file browsers): the boxes and sounds, the peer and the
-// engine.
+// board), the lists (installed with the file browsers), the engine (installed with the engine
+// form) and the peer (installed with network play, shell/red_programa.h): the boxes and sounds.
 namespace qa {
 
 void InstalarEntornoPrograma();
