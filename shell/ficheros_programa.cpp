@@ -178,11 +178,7 @@ void AbrirFicheroEpd(const std::string& ruta) {
         if (MostrarMensajeNumero(57, kIconoPregunta, kBotonesSiNo) != kRespuestaSi) return;
         f->close();
     }
-    PonerPiezas(f->Tablero());
-    f->Abrir(QString::fromStdString(RutaUsuario(ruta)));
-    Situar(f, Controles().Epd);
-    f->show();
-    f->raise();
+    LeerFicheroEpd(ruta);
 }
 
 // The PGN browser for the core: closing it is the form's own close, which puts the board back.

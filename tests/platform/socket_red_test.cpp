@@ -2,6 +2,8 @@
 // waiting side on 1500, the caller from 1501.
 #include "platform/socket_red.h"
 
+#include "puertos_libres.h"
+
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
@@ -76,16 +78,8 @@ void Registrar(SocketRed& s, Registro& r) {
 class SocketRedTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        // Another program on our ports would make every test below fail for a reason not ours.
-        QTcpServer sonda;
-        if (!sonda.listen(QHostAddress::Any, 1500))
-            FAIL() << "port 1500 is taken by another program: "
-                   << sonda.errorString().toStdString();
-        sonda.close();
-        QTcpSocket sonda2;
-        if (!sonda2.bind(QHostAddress::Any, 1501, QAbstractSocket::ShareAddress))
-            FAIL() << "port 1501 is taken by another program: "
-                   << sonda2.errorString().toStdString();
+        if (const std::string ocupado = prueba_red::PuertosOcupados(); !ocupado.empty())
+            FAIL() << ocupado;
         Registrar(ser, rSer);
         Registrar(cli, rCli);
     }

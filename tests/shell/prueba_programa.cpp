@@ -1,5 +1,6 @@
 #include "prueba_programa.h"
 
+#include "board/pic_buffer.h"
 #include "core/recorder.h"
 #include "language/idioma.h"
 #include "platform/ini_file.h"
@@ -13,6 +14,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTest>
 #include <QThread>
 #include <QTimer>
 #include <fstream>
@@ -96,6 +98,19 @@ bool Esperar(const std::function<bool()>& condicion, int milisegundos) {
         QThread::msleep(5);
     }
     return true;
+}
+
+QPoint Centro(const qa::PicBuffer& p, const char* casilla) {
+    const auto [c, f] = p.Convertir(casilla[0] - 'a' + 1, casilla[1] - '0');
+    return p.Esquina(c, f) + QPoint(p.AnchoCasilla / 2, p.AltoCasilla / 2);
+}
+
+void Arrastrar(qa::PicBuffer& p, const char* jugada) {
+    const QPoint a = Centro(p, jugada), b = Centro(p, jugada + 2);
+    QTest::mousePress(&p, Qt::LeftButton, {}, a);
+    QTest::mouseMove(&p, (a + b) / 2);
+    QTest::mouseMove(&p, b);
+    QTest::mouseRelease(&p, Qt::LeftButton, {}, b);
 }
 
 void AlAbrirse(const char* clase, std::function<void(QWidget*)> hacer) {

@@ -3,6 +3,7 @@
 // started and closed in the test process, offscreen.
 #include "shell/servicios.h"
 
+#include <QPoint>
 #include <QStringList>
 #include <QWidget>
 #include <deque>
@@ -11,7 +12,16 @@
 #include <string>
 #include <vector>
 
+namespace qa {
+class PicBuffer;
+}
+
 namespace prueba {
+
+// The middle of a square ("e2") on the board's picture, as this side sees the board.
+QPoint Centro(const qa::PicBuffer& p, const char* casilla);
+// A move ("e2e4") dragged with the mouse, press to release.
+void Arrastrar(qa::PicBuffer& p, const char* jugada);
 
 struct Caja {
     std::string titulo, texto;

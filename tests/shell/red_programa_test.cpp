@@ -3,6 +3,8 @@
 // Both use the program's fixed ports.
 #include "prueba_programa.h"
 
+#include "../platform/puertos_libres.h"
+
 #include "board/lista_jugadas.h"
 #include "board/vista_tablero.h"
 #include "core/game_state.h"
@@ -84,16 +86,8 @@ protected:
     VistaTablero* vista = nullptr;
 
     void SetUp() override {
-        // Another program on the fixed ports would fail every step below for a reason not ours.
-        QTcpServer sonda;
-        if (!sonda.listen(QHostAddress::Any, 1500))
-            FAIL() << "port 1500 is taken by another program: "
-                   << sonda.errorString().toStdString();
-        sonda.close();
-        QTcpSocket sonda2;
-        if (!sonda2.bind(QHostAddress::Any, 1501, QAbstractSocket::ShareAddress))
-            FAIL() << "port 1501 is taken by another program: "
-                   << sonda2.errorString().toStdString();
+        if (const std::string ocupado = prueba_red::PuertosOcupados(); !ocupado.empty())
+            FAIL() << ocupado;
 
         carpeta.Ajustar("Configuracion", "Nick", "Ana");
         InstalarEntornoPrograma();
@@ -111,19 +105,8 @@ protected:
         RestablecerTodo();
     }
 
-    QPoint Centro(const char* casilla) const {
-        PicBuffer* p = vista->Picture();
-        const auto [c, f] = p->Convertir(casilla[0] - 'a' + 1, casilla[1] - '0');
-        return p->Esquina(c, f) + QPoint(p->AnchoCasilla / 2, p->AltoCasilla / 2);
-    }
-    void Arrastrar(const char* jugada) {
-        PicBuffer* p = vista->Picture();
-        const QPoint a = Centro(jugada), b = Centro(jugada + 2);
-        QTest::mousePress(p, Qt::LeftButton, {}, a);
-        QTest::mouseMove(p, (a + b) / 2);
-        QTest::mouseMove(p, b);
-        QTest::mouseRelease(p, Qt::LeftButton, {}, b);
-    }
+    QPoint Centro(const char* casilla) const { return prueba::Centro(*vista->Picture(), casilla); }
+    void Arrastrar(const char* jugada) { prueba::Arrastrar(*vista->Picture(), jugada); }
     static std::string Chat() { return Forms().chat->ChatList()->toPlainText().toStdString(); }
     static bool Contiene(const std::string& texto, const std::string& parte) {
         return texto.find(parte) != std::string::npos;

@@ -65,19 +65,8 @@ protected:
         if (Forms().mdi) Forms().mdi->close();
         RestablecerTodo();
     }
-    QPoint Centro(const char* casilla) const {
-        PicBuffer* p = vista->Picture();
-        const auto [c, f] = p->Convertir(casilla[0] - 'a' + 1, casilla[1] - '0');
-        return p->Esquina(c, f) + QPoint(p->AnchoCasilla / 2, p->AltoCasilla / 2);
-    }
-    void Arrastrar(const char* jugada) {
-        PicBuffer* p = vista->Picture();
-        const QPoint a = Centro(jugada), b = Centro(jugada + 2);
-        QTest::mousePress(p, Qt::LeftButton, {}, a);
-        QTest::mouseMove(p, (a + b) / 2);
-        QTest::mouseMove(p, b);
-        QTest::mouseRelease(p, Qt::LeftButton, {}, b);
-    }
+    QPoint Centro(const char* casilla) const { return prueba::Centro(*vista->Picture(), casilla); }
+    void Arrastrar(const char* jugada) { prueba::Arrastrar(*vista->Picture(), jugada); }
     // With QA_CAPTURAS naming a folder, the main window is saved there as a picture.
     // Under a real X server the whole screen, with the windows of their own.
     static void Captura(const char* nombre) {
