@@ -420,6 +420,15 @@ def guardar(args, nombre, extra):
             f.write(f"{t - t0:8.3f} {l}\n")
 
 
+def cerrar_y_tabla(cli, raiz, filas, cabecera):
+    """The tool closed, the table, and what was left running after the close."""
+    fallo = cli.cerrar()
+    vivos = comprobar_restos(raiz)
+    print()
+    tabla(filas, cabecera)
+    print(f"after close: {fallo or 'closed'}; engine processes left: {vivos or 'none'}")
+
+
 def tabla(filas, cabecera):
     anchos = [max(len(str(x)) for x in col) for col in zip(cabecera, *filas)]
     linea = lambda f: "| " + " | ".join(str(x).ljust(a) for x, a in zip(f, anchos)) + " |"
@@ -448,12 +457,8 @@ def cmd_matrix(args, cli_ruta, raiz):
                 filas.append((motor, tipo, color, clase, f"{dur:.0f}", extra["plies"], texto,
                               " ".join(vivos) or "none"))
                 print(" ".join(str(x) for x in filas[-1]), flush=True)
-    fallo = cli.cerrar()
-    vivos = comprobar_restos(raiz)
-    print()
-    tabla(filas, ("engine", "level", "engine plays", "end", "s", "plies", "how / why",
-                  "left running"))
-    print(f"after close: {fallo or 'closed'}; engine processes left: {vivos or 'none'}")
+    cerrar_y_tabla(cli, raiz, filas, ("engine", "level", "engine plays", "end", "s", "plies",
+                                      "how / why", "left running"))
 
 
 def cmd_match(args, cli_ruta, raiz):
@@ -478,17 +483,13 @@ def cmd_match(args, cli_ruta, raiz):
             filas.append((tipo, i + 1, b, ng, clase, f"{dur:.0f}", extra["plies"], extra["go1"],
                           texto, " ".join(vivos) or "none"))
             print(" ".join(str(x) for x in filas[-1]), flush=True)
-    fallo = cli.cerrar()
-    vivos = comprobar_restos(raiz)
-    print()
-    tabla(filas, ("level", "#", "White", "Black", "end", "s", "plies", "'go' to White",
-                  "how / why", "left running"))
+    cerrar_y_tabla(cli, raiz, filas, ("level", "#", "White", "Black", "end", "s", "plies",
+                                      "'go' to White", "how / why", "left running"))
     blancas_fm = sum(1 for f in filas if f[2] == "fairymax")
     print(f"fairymax as White received 'go' more than once in {dobles} of {blancas_fm} games")
     if jugado:
         print(f"tool's own CPU (polled by this script) {cpu_total:.2f} s over {jugado / 60:.1f} min "
               f"of play: {cpu_total / (jugado / 60):.2f} s per minute")
-    print(f"after close: {fallo or 'closed'}; engine processes left: {vivos or 'none'}")
 
 
 def cmd_kill(args, cli_ruta, raiz):
@@ -505,7 +506,8 @@ def cmd_kill(args, cli_ruta, raiz):
                 m0, t0 = len(cli.mensajes), len(cli.traza)
             cli.pedir("engine start")
             esperar_traza(cli, t0, r"from[12] .*", 15)
-            time.sleep(1.5)  # mid-game: the engines have started to talk
+            # Mid-game: after the first move, or once the engines have talked for a while.
+            esperar_traza(cli, t0, r"from[12] move .*", 3)
             pids = [p.split(":")[0] for p in restos(raiz) if p.endswith(":" + victima)]
             for p in pids:
                 os.kill(int(p), signal.SIGKILL)
@@ -532,12 +534,8 @@ def cmd_kill(args, cli_ruta, raiz):
                           "; ".join(mens) or "(no message)", " ".join(vivos) or "none",
                           "yes" if nueva else "NO"))
             print(" | ".join(filas[-1]), flush=True)
-    fallo = cli.cerrar()
-    vivos = comprobar_restos(raiz)
-    print()
-    tabla(filas, ("White", "Black", "level", "killed", "game", "message", "left running",
-                  "new game plays"))
-    print(f"after close: {fallo or 'closed'}; engine processes left: {vivos or 'none'}")
+    cerrar_y_tabla(cli, raiz, filas, ("White", "Black", "level", "killed", "game", "message",
+                                      "left running", "new game plays"))
 
 
 def cmd_measure(args, cli_ruta, raiz):
