@@ -76,6 +76,11 @@ def preparar(cli, raiz, linebuf=()):
     os.makedirs(raiz, exist_ok=True)
     destino = os.path.join(raiz, "quintarena-cli")
     shutil.copy2(cli, destino)
+    # Modules the tool loads from beside itself (its event loop) go along.
+    carpeta = os.path.dirname(os.path.abspath(cli))
+    for nombre in os.listdir(carpeta):
+        if nombre.startswith("quintarena-cli") and nombre.endswith(".so"):
+            shutil.copy2(os.path.join(carpeta, nombre), raiz)
     datos = os.path.join(RAIZ, "data")
     shutil.copy2(os.path.join(datos, "English.lng"), raiz)
     with open(os.path.join(datos, "Default.ini"), encoding="latin-1") as f:
