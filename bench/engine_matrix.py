@@ -182,6 +182,8 @@ class Cli:
         self.enviar(linea)
         r = []
         while (x := self.respuesta()) != ".":
+            if not r and x.startswith("error"):
+                raise RuntimeError(f"quintarena-cli answered '{linea}' with '{x}'")
             r.append(x)
         return r
 
