@@ -439,6 +439,13 @@ TEST_F(Sesion, AClockCountsChangesOfTheWallClocksSecond) {
     hora.segundo = 11;
     relojB.Vencer();
     EXPECT_EQ(red.TextoReloj(1), "00:58");
+    // Black's clock ticking takes the mark over.
+    hora.segundo = 12;
+    relojN.Habilitar(true);
+    relojN.Vencer();
+    EXPECT_EQ(red.TextoReloj(2), "00:59");
+    EXPECT_TRUE(vista.blanco[2]);
+    EXPECT_FALSE(vista.blanco[1]);
 }
 
 TEST_F(Sesion, AFallenFlagEndsTheGameOnItsOwnSide) {
@@ -531,6 +538,33 @@ TEST_F(Sesion, TheOffererGetsItsAnswer) {
 
     Conectado = false;
     EXPECT_FALSE(s->MenuNuevaPartida()) << "engine play's";
+}
+
+TEST_F(Sesion, TheOffererPlayingBlackStartsWhitesClockOnlyInARunningGame) {
+    ConectarServidor();
+    vista.alMostrarNuevo = [this] {
+        s->CargarNuevo();
+        s->NuevoOpcionColor(false);
+        s->NuevoMinutos("5");
+        s->NuevoCommand1();
+    };
+    s->MenuNuevaPartida();
+    Recibir("NuevoAceptado");
+    EXPECT_EQ(Cajas(), "101");
+    EXPECT_EQ(TipoPartida, "R");
+    EXPECT_EQ(ColorJugador, "Negras");
+    EXPECT_EQ(Turno, 0);
+    EXPECT_EQ(vista.tableroNegrasAbajo, 1);
+    EXPECT_FALSE(relojB.Habilitado()) << "no game ran: White's first time starts it";
+    EXPECT_FALSE(relojN.Habilitado());
+
+    red.respuestas = {kRespuestaSi};
+    s->MenuNuevaPartida();
+    Recibir("NuevoAceptado");
+    EXPECT_EQ(Cajas(), "12|101");
+    EXPECT_EQ(ColorJugador, "Negras");
+    EXPECT_TRUE(relojB.Habilitado()) << "a rated game was running";
+    EXPECT_FALSE(relojN.Habilitado());
 }
 
 TEST_F(Sesion, TheNewGameDialogKeepsItsLimits) {
