@@ -149,7 +149,7 @@ void Motores::Impl::Terminar() {
 void Motores::ErrorRecibido(int /*motor*/, const std::string& texto) {
     Impl& i = *impl_;
     if (e_.CerrandoMotor) return;
-    if (e_.ParandoMotores && Contiene(texto, "6")) return;
+    if (e_.ParandoMotores && Tiene(texto, "6")) return;
     Aviso("[ERROR] " + texto, kIconoStop);
     i.DescargarDLL();
     i.Terminar();

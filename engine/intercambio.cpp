@@ -6,8 +6,6 @@
 #include "core/move_sequence.h"
 #include "platform/texto.h"
 
-#include <algorithm>
-
 namespace qa {
 
 using namespace motor;
@@ -52,12 +50,6 @@ std::string CasillaMotor(const std::string& casilla) {
     return r;
 }
 
-std::string MinusculasAscii(std::string texto) {
-    for (char& c : texto)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return texto;
-}
-
 } // namespace
 
 void Motores::GenerarMovimiento() {
@@ -70,36 +62,26 @@ void Motores::GenerarMovimiento() {
     const bool reloj = i.ConReloj();
     if (reloj && Jugadas::List1.size() == 1 && Val(i.cpu.TextoNivel(3)) == MinutosNegras)
         i.RelojesANivel();
-    if (!MotorBlancas) {
-        if (reloj && MotorNegras) {
-            Impl::EncenderReloj(i.timer5);
-            i.timer4.Habilitar(false);
-            i.TickReloj(2);
-        }
-        i.TimeMilisegundos();
-        i.Enviar(2, i.Relojes(2) + kCrLf + e_.MovimientoCPU);
-    } else {
-        if (reloj) {
-            Impl::EncenderReloj(i.timer4);
-            i.timer5.Habilitar(false);
-            i.TickReloj(1);
-        }
-        i.TimeMilisegundos();
-        i.Enviar(1, i.Relojes(1) + kCrLf + e_.MovimientoCPU);
+    const int m = MotorBlancas ? 1 : 2;
+    if (reloj && Impl::Corre(m)) {
+        Impl::EncenderReloj(m == 1 ? i.timer4 : i.timer5);
+        (m == 1 ? i.timer5 : i.timer4).Habilitar(false);
+        i.TickReloj(m);
     }
+    i.TimeMilisegundos();
+    i.Enviar(m, i.Relojes(m) + kCrLf + e_.MovimientoCPU);
 }
 
 void Motores::Impl::ConvertirMovimiento(const std::string& texto) {
-    std::string t = texto.substr(std::min(texto.find_first_not_of(' '), texto.size()));
-    t = MinusculasAscii(t);
+    std::string t = MinusculasAscii(SinBlancosDelante(texto));
     e.MovimientoCPU.clear();
     // Which side castles is read from the engine whose last line says so.
     if (t == "o-o") {
-        if (Contiene(e.RespuestaMotor[1], "o-o")) t = "e1g1";
-        if (Contiene(e.RespuestaMotor[2], "o-o")) t = "e8g8";
+        if (Tiene(e.RespuestaMotor[1], "o-o")) t = "e1g1";
+        if (Tiene(e.RespuestaMotor[2], "o-o")) t = "e8g8";
     } else if (t == "o-o-o") {
-        if (Contiene(e.RespuestaMotor[1], "o-o-o")) t = "e1c1";
-        if (Contiene(e.RespuestaMotor[2], "o-o-o")) t = "e8c8";
+        if (Tiene(e.RespuestaMotor[1], "o-o-o")) t = "e1c1";
+        if (Tiene(e.RespuestaMotor[2], "o-o-o")) t = "e8c8";
     }
     for (std::size_t i = 0; i < 4 && i < t.size(); ++i) {
         const char c = t[i];

@@ -1,39 +1,20 @@
 #include "engine/lector_motor.h"
 
+#include "engine/texto_motor.h"
+
 #include <initializer_list>
 #include <string_view>
 
 namespace qa {
 
-namespace {
+using namespace motor;
 
-bool Tiene(std::string_view texto, std::string_view parte) {
-    return texto.find(parte) != std::string_view::npos;
-}
+namespace {
 
 bool TieneAlguna(std::string_view texto, std::initializer_list<std::string_view> partes) {
     for (auto p : partes)
         if (Tiene(texto, p)) return true;
     return false;
-}
-
-// Engines write ASCII; other bytes are left as they are.
-std::string MinusculasAscii(std::string texto) {
-    for (char& c : texto)
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    return texto;
-}
-
-// Blanks only: a tab is part of the text.
-std::string SinBlancosDelante(const std::string& texto) {
-    const auto p = texto.find_first_not_of(' ');
-    return p == std::string::npos ? std::string() : texto.substr(p);
-}
-
-// What stands behind the first `marca`; all of it when there is none.
-std::string TrasPrimera(const std::string& texto, char marca) {
-    const auto p = texto.find(marca);
-    return p == std::string::npos ? texto : texto.substr(p + 1);
 }
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "core/move_list.h"
 #include "engine/lector_motor.h"
 #include "engine/niveles.h"
+#include "engine/texto_motor.h"
 #include "platform/mensajes.h"
 
 #include <string>
@@ -19,10 +20,6 @@ using namespace Variables;
 namespace motor {
 
 inline constexpr const char* kCrLf = "\r\n";
-
-inline bool Contiene(const std::string& texto, const std::string& parte) {
-    return texto.find(parte) != std::string::npos;
-}
 
 inline void Aviso(const std::string& texto, int icono = kIconoInformacion) {
     dialogos().MostrarMensaje(kTituloMensajes, texto, icono, kBotonAceptar, 0);

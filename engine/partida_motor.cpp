@@ -17,8 +17,7 @@ std::string AntesDolar(const std::string& texto) {
     return p == std::string::npos ? std::string() : texto.substr(0, p);
 }
 std::string TrasDolar(const std::string& texto) {
-    const auto p = texto.find('$');
-    return p == std::string::npos ? texto : texto.substr(p + 1);
+    return TrasPrimera(texto, '$');
 }
 
 } // namespace
