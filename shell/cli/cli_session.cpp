@@ -19,6 +19,8 @@
 #include <cctype>
 #include <charconv>
 #include <map>
+#include <sstream>
+#include <vector>
 #include <ostream>
 
 using namespace Variables;
@@ -82,13 +84,31 @@ void Partir(const std::string& linea, std::string& orden, std::string& resto) {
 // length holds no record of what it showed.
 class SesionCli::Entorno : public EntornoRegistro {
 public:
-    Entorno(std::ostream& errores, Traductor& traductor)
-        : errores_(errores), traductor_(traductor) {}
+    Entorno(std::ostream& salida, std::ostream& errores, Traductor& traductor)
+        : salida_(salida), errores_(errores), traductor_(traductor) {}
     int MostrarMensaje(const std::string& titulo, const std::string& texto, int, int botones,
                        int extra) override {
         errores_ << "message " << titulo << ": " << (traductor_ ? traductor_(texto) : texto)
                  << std::endl;
         return RespuestaRegistrada(botones, extra, respuestas);
+    }
+    // With no text waiting the box is cancelled, and every box after it too until a text is
+    // given: a caller that asks again on an empty answer must not spin.
+    std::string PedirTexto(const std::string& pregunta, const std::string& titulo) override {
+        errores_ << "input " << titulo << ": " << pregunta << std::endl;
+        if (textos.empty()) {
+            if (!sinTexto_) salida_ << "error no answer waiting for the input box" << std::endl;
+            sinTexto_ = true;
+            return {};
+        }
+        std::string t = textos.front();
+        textos.erase(textos.begin());
+        return t;
+    }
+    void Responder(std::vector<int> si, std::vector<std::string> t) {
+        respuestas.insert(respuestas.end(), si.begin(), si.end());
+        textos.insert(textos.end(), t.begin(), t.end());
+        if (!t.empty()) sinTexto_ = false;
     }
     void Sonar(int) override {}
     void SumaDePartidas(int) override {}
@@ -101,13 +121,15 @@ public:
     }
 
 private:
+    std::ostream& salida_;
     std::ostream& errores_;
     Traductor& traductor_;
+    bool sinTexto_ = false;
 };
 
 SesionCli::SesionCli(std::ostream& salida, std::ostream& errores, Traductor traductor)
     : salida_(salida), errores_(errores), traductor_(std::move(traductor)),
-      entorno_(new Entorno(errores_, traductor_)) {
+      entorno_(new Entorno(salida_, errores_, traductor_)) {
     InstalarRegistro(entorno_);
 }
 
@@ -121,7 +143,11 @@ void SesionCli::Ejecutar(const std::string& linea) {
     Partir(linea, orden, arg);
     if (orden.empty() || orden[0] == '#') return;
 
-    if (orden == "new" && arg.empty()) {
+    if (ordenes_ && ordenes_->Ejecutar(orden, arg)) {
+        // the holder answered
+    } else if (orden == "answer") {
+        Responder(arg);
+    } else if (orden == "new" && arg.empty()) {
         NuevaPartidaLocal();
         salida_ << "ok\n";
     } else if (orden == "move") {
@@ -202,7 +228,13 @@ void SesionCli::Probar(const std::string& arg) {
 
 void SesionCli::Obtener(const std::string& nombre) {
     const auto& tabla = TablaVariables();
-    auto it = tabla.find(qa::Minusculas(nombre));
+    const std::string clave = qa::Minusculas(nombre);
+    auto it = tabla.find(clave);
+    std::string valor;
+    if (it == tabla.end() && ordenes_ && ordenes_->Obtener(clave, valor)) {
+        salida_ << valor << '\n';
+        return;
+    }
     if (it == tabla.end()) {
         salida_ << "error unknown variable: " << nombre << '\n';
         return;
@@ -287,4 +319,30 @@ void SesionCli::PgnPartida(const std::string& arg) {
     CargarPartidaPgn();
     entorno_->listaPgnVisible = false;
     salida_ << (FallaPgn ? "failed " : "ok ") << ListaPgn::PgnJugadas.size() << '\n';
+}
+
+// "answer yes no text Ana": the answers the next boxes get, checked whole before any is kept.
+void SesionCli::Responder(const std::string& arg) {
+    std::vector<int> si;
+    std::vector<std::string> textos;
+    std::istringstream palabras(arg);
+    std::string p;
+    while (palabras >> p) {
+        if (p == "yes") {
+            si.push_back(qa::kRespuestaSi);
+        } else if (p == "no") {
+            si.push_back(qa::kRespuestaNo);
+        } else if (p == "text" && palabras >> p) {
+            textos.push_back(p);
+        } else {
+            salida_ << "error answer takes yes, no or text WORD\n";
+            return;
+        }
+    }
+    if (si.empty() && textos.empty()) {
+        salida_ << "error answer takes yes, no or text WORD\n";
+        return;
+    }
+    entorno_->Responder(std::move(si), std::move(textos));
+    salida_ << "ok\n";
 }

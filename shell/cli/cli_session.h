@@ -7,12 +7,25 @@
 #include <iosfwd>
 #include <string>
 
+// Commands of a holder that runs the session inside an event loop (network, engines). It sees
+// each command first, so it can also take over a board command while a peer owns the game.
+class OrdenesCli {
+public:
+    virtual ~OrdenesCli() = default;
+    // False when the command is not one of its own.
+    virtual bool Ejecutar(const std::string& orden, const std::string& arg) = 0;
+    // A variable of its own state for `get`; false when it has none of that name.
+    virtual bool Obtener(const std::string& nombreMinusculas, std::string& valor) = 0;
+};
+
 class SesionCli {
 public:
     // Turns a message argument (a number or a text) into the text shown.
     using Traductor = std::function<std::string(const std::string&)>;
 
     SesionCli(std::ostream& salida, std::ostream& errores, Traductor traductor = {});
+    void FijarOrdenes(OrdenesCli* ordenes) { ordenes_ = ordenes; }
+    std::ostream& Salida() { return salida_; }
     ~SesionCli();
     SesionCli(const SesionCli&) = delete;
     SesionCli& operator=(const SesionCli&) = delete;
@@ -26,6 +39,7 @@ private:
     std::ostream& errores_;
     Traductor traductor_;
     Entorno* entorno_;
+    OrdenesCli* ordenes_ = nullptr;
 
     void Mover(const std::string& arg);
     void Probar(const std::string& arg);
@@ -36,4 +50,5 @@ private:
     void AbrirListaPgn(const std::string& ruta);
     void Pgn(const std::string& ruta);
     void PgnPartida(const std::string& arg);
+    void Responder(const std::string& arg);
 };

@@ -4,7 +4,10 @@
 #include "platform/programa.h"
 #include "platform/texto.h"
 #include "shell/cli/cli_session.h"
+#include "shell/cli/entrada_cli.h"
 
+#include <QCoreApplication>
+#include <fcntl.h>
 #include <filesystem>
 #include <iostream>
 #include <string>
@@ -27,12 +30,14 @@ bool CargarIdioma() {
 
 } // namespace
 
-int main() {
+int main(int argc, char** argv) {
     std::ios::sync_with_stdio(false);
+    // Asked before Qt opens descriptors of its own, one of which could take the number 0.
+    const bool hayEntrada = ::fcntl(0, F_GETFD) != -1;
+    QCoreApplication app(argc, argv);
     SesionCli::Traductor traductor;
     if (CargarIdioma()) traductor = [](const std::string& t) { return qa::TextoMensaje(t); };
     SesionCli sesion(std::cout, std::cerr, traductor);
-    std::string linea;
-    while (std::getline(std::cin, linea)) sesion.Ejecutar(linea);
-    return 0;
+    EntradaCli entrada(sesion, hayEntrada, [] { QCoreApplication::quit(); });
+    return app.exec();
 }

@@ -1,0 +1,39 @@
+#pragma once
+// The console tool's standard input read from the event loop, so sockets, timers and engines
+// go on while no command comes. Whole lines run as they arrive; `wait MS` holds back the lines
+// after it for that long while the loop runs. At the end of the input the last partial line is
+// still a command, and the program ends once every command before it, waits included, is done.
+
+#include <QSocketNotifier>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <string>
+
+class SesionCli;
+
+class EntradaCli {
+public:
+    // `alTerminar` runs once, when the input has ended and nothing is left to run. Without
+    // `hayEntrada` (descriptor 0 closed) the input counts as ended at once.
+    EntradaCli(SesionCli& sesion, bool hayEntrada, std::function<void()> alTerminar);
+    EntradaCli(const EntradaCli&) = delete;
+    EntradaCli& operator=(const EntradaCli&) = delete;
+
+private:
+    void Leer();
+    void Avanzar();
+    bool Esperar(const std::string& arg);
+
+    SesionCli& sesion_;
+    std::function<void()> alTerminar_;
+    std::unique_ptr<QSocketNotifier> notificador_;
+    QTimer espera_;
+    std::string resto_;
+    std::deque<std::string> lineas_;
+    bool fin_ = false;
+    bool esperando_ = false;
+    bool terminado_ = false;
+    bool enCurso_ = false;
+};
