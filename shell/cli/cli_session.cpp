@@ -19,9 +19,9 @@
 #include <cctype>
 #include <charconv>
 #include <map>
+#include <ostream>
 #include <sstream>
 #include <vector>
-#include <ostream>
 
 using namespace Variables;
 
@@ -92,13 +92,13 @@ public:
                  << std::endl;
         return RespuestaRegistrada(botones, extra, respuestas);
     }
-    // With no text waiting the box is cancelled, and every box after it too until a text is
-    // given: a caller that asks again on an empty answer must not spin.
+    // With no text waiting the box is cancelled; its caller is told not to ask again
+    // (SinRespuesta), so nothing loops on an empty answer.
     std::string PedirTexto(const std::string& pregunta, const std::string& titulo) override {
         errores_ << "input " << titulo << ": " << pregunta << std::endl;
-        if (textos.empty()) {
-            if (!sinTexto_) salida_ << "error no answer waiting for the input box" << std::endl;
-            sinTexto_ = true;
+        sinTexto_ = textos.empty();
+        if (sinTexto_) {
+            salida_ << "error no answer waiting for the input box" << std::endl;
             return {};
         }
         std::string t = textos.front();
@@ -108,8 +108,8 @@ public:
     void Responder(std::vector<int> si, std::vector<std::string> t) {
         respuestas.insert(respuestas.end(), si.begin(), si.end());
         textos.insert(textos.end(), t.begin(), t.end());
-        if (!t.empty()) sinTexto_ = false;
     }
+    bool SinRespuesta() const { return sinTexto_; }
     void Sonar(int) override {}
     void SumaDePartidas(int) override {}
     void AvisoCargando(const std::string&) override {}
@@ -319,6 +319,14 @@ void SesionCli::PgnPartida(const std::string& arg) {
     CargarPartidaPgn();
     entorno_->listaPgnVisible = false;
     salida_ << (FallaPgn ? "failed " : "ok ") << ListaPgn::PgnJugadas.size() << '\n';
+}
+
+void SesionCli::ResponderTexto(const std::string& texto) {
+    entorno_->Responder({}, {texto});
+}
+
+bool SesionCli::CajaSinRespuesta() const {
+    return entorno_->SinRespuesta();
 }
 
 // "answer yes no text Ana": the answers the next boxes get, checked whole before any is kept.

@@ -26,6 +26,10 @@ public:
     SesionCli(std::ostream& salida, std::ostream& errores, Traductor traductor = {});
     void FijarOrdenes(OrdenesCli* ordenes) { ordenes_ = ordenes; }
     std::ostream& Salida() { return salida_; }
+    // A text for the next input box, as `answer text` gives it.
+    void ResponderTexto(const std::string& texto);
+    // The last input box found no text waiting and was cancelled.
+    bool CajaSinRespuesta() const;
     ~SesionCli();
     SesionCli(const SesionCli&) = delete;
     SesionCli& operator=(const SesionCli&) = delete;

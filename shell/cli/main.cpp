@@ -5,6 +5,7 @@
 #include "platform/texto.h"
 #include "shell/cli/cli_session.h"
 #include "shell/cli/entrada_cli.h"
+#include "shell/cli/programa_cli.h"
 
 #include <QCoreApplication>
 #include <fcntl.h>
@@ -38,6 +39,8 @@ int main(int argc, char** argv) {
     SesionCli::Traductor traductor;
     if (CargarIdioma()) traductor = [](const std::string& t) { return qa::TextoMensaje(t); };
     SesionCli sesion(std::cout, std::cerr, traductor);
-    EntradaCli entrada(sesion, hayEntrada, [] { QCoreApplication::quit(); });
+    ProgramaCli programa(sesion, [] { QCoreApplication::quit(); });
+    sesion.FijarOrdenes(&programa);
+    EntradaCli entrada(sesion, hayEntrada, [&programa] { programa.Terminar(); });
     return app.exec();
 }
