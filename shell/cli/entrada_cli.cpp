@@ -48,9 +48,19 @@ void EntradaCli::Leer() {
     Avanzar();
 }
 
+int EntradaCli::retenida_ = 0;
+
+void EntradaCli::Retener(bool retener) {
+    retenida_ += retener ? 1 : -1;
+}
+
 void EntradaCli::Avanzar() {
     // A command that lets events run must not start the next one inside itself.
     if (enCurso_) return;
+    if (retenida_ > 0) {
+        QTimer::singleShot(1, &contexto_, [this] { Avanzar(); });
+        return;
+    }
     enCurso_ = true;
     while (!esperando_ && !lineas_.empty()) {
         std::string linea = std::move(lineas_.front());

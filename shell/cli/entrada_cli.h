@@ -21,6 +21,9 @@ public:
     EntradaCli(const EntradaCli&) = delete;
     EntradaCli& operator=(const EntradaCli&) = delete;
 
+    // While held (a yield to pending events inside a command or an event), lines wait.
+    static void Retener(bool retener);
+
 private:
     void Leer();
     void Avanzar();
@@ -36,4 +39,6 @@ private:
     bool esperando_ = false;
     bool terminado_ = false;
     bool enCurso_ = false;
+    QObject contexto_;
+    static int retenida_;
 };

@@ -9,6 +9,7 @@
 #include <functional>
 #include <memory>
 
+class MotorCli;
 class RedCli;
 
 class ProgramaCli final : public OrdenesCli {
@@ -25,10 +26,12 @@ public:
 
 private:
     RedCli& Red();
+    MotorCli& Motor();
 
     SesionCli& cli_;
     std::function<void()> salir_;
     std::unique_ptr<RedCli> red_;
+    std::unique_ptr<MotorCli> motor_;
     QTimer plazoCierre_;
     bool saliendo_ = false;
 };
