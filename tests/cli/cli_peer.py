@@ -9,6 +9,7 @@ import threading
 import time
 
 ESPERA = 30.0  # seconds any one condition may take before the test fails
+TRAZAS = ("sent ", "recv ", "to1 ", "to2 ", "from1 ", "from2 ")  # lines of the wire and pipes
 
 
 class Fallo(Exception):
@@ -26,7 +27,8 @@ class Cli:
         self.carpeta = carpeta
         self.lineas = []
         self.errores = []
-        self.leidas = 0
+        self.leidas = 0  # lines before this one are all taken
+        self.tomadas = set()
         self._cola = queue.Queue()
         self.proc = subprocess.Popen(
             [os.path.join(carpeta, "quintarena-cli")], cwd=carpeta, stdin=subprocess.PIPE,
@@ -65,19 +67,25 @@ class Cli:
         self.proc.stdin.flush()
 
     def esperar(self, pred, que, plazo=ESPERA):
-        """Reads lines until pred(line) holds for a line not looked at yet; returns it."""
+        """The first line not taken yet for which pred holds, read as it comes; it is taken.
+        Lines passed over stay for later waits: a trace that came before an answer is still
+        there to wait for."""
         fin = time.monotonic() + plazo
+        i = self.leidas
         while True:
-            while self.leidas < len(self.lineas):
-                l = self.lineas[self.leidas]
-                self.leidas += 1
-                if pred(l):
+            while i < len(self.lineas):
+                l = self.lineas[i]
+                if i not in self.tomadas and pred(l):
+                    self.tomadas.add(i)
+                    while self.leidas in self.tomadas:
+                        self.leidas += 1
                     return l
+                i += 1
             resta = fin - time.monotonic()
             if resta <= 0 or not self._recoger(resta):
                 self._recoger_errores()
                 raise Fallo(f"{self.nombre}: no {que} within {plazo} s; last lines:\n" +
-                            "\n".join(self.lineas[-15:]) + "\nstderr:\n" +
+                            "\n".join(self.lineas[-60:]) + "\nstderr:\n" +
                             "\n".join(self.errores[-10:]))
 
     def linea(self, texto, plazo=ESPERA):
@@ -86,9 +94,7 @@ class Cli:
     def respuesta(self, orden):
         """Runs a command and returns its answer: the first line after it that is not a trace."""
         self.enviar(orden)
-        return self.esperar(lambda l: not l.startswith(("sent ", "recv ", "to1 ", "to2 ",
-                                                      "from1 ", "from2 ")),
-                            f"answer to {orden!r}")
+        return self.esperar(lambda l: not l.startswith(TRAZAS), f"answer to {orden!r}")
 
     def obtener(self, nombre):
         return self.respuesta("get " + nombre)
@@ -108,7 +114,7 @@ class Cli:
         self.enviar("board")
         filas = []
         while True:
-            l = self.esperar(lambda l: not l.startswith(("sent ", "recv ")), "board")
+            l = self.esperar(lambda l: not l.startswith(TRAZAS), "board")
             if l == ".":
                 return filas
             filas.append(l)
@@ -117,7 +123,7 @@ class Cli:
         self.enviar(f"list {n}")
         filas = []
         while True:
-            l = self.esperar(lambda l: not l.startswith(("sent ", "recv ")), "list")
+            l = self.esperar(lambda l: not l.startswith(TRAZAS), "list")
             if l == ".":
                 return filas
             filas.append(l)

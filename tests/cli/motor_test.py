@@ -1,0 +1,101 @@
+"""quintarena-cli against a real engine, fairymax: a person's game scripted move by move that
+the person resigns, then fairymax against itself to a result. No engine outlives its game or
+the program."""
+import os
+import sys
+import tempfile
+
+sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+from cli_peer import Cli, Fallo  # noqa: E402
+
+FAIRYMAX = "/usr/games/fairymax"
+SIN_MOTOR = 77  # ctest's skip code
+
+
+def igual(que, a, b):
+    if a != b:
+        raise Fallo(f"{que}: {a!r} != {b!r}")
+
+
+def motores_vivos(carpeta):
+    """Processes whose working folder lies in the engines' folder beside the program: the
+    engines we started, and whatever they started."""
+    carpeta = os.path.join(carpeta, "Motor")
+    vivos = []
+    for pid in os.listdir("/proc"):
+        if pid.isdigit():
+            try:
+                if os.readlink(f"/proc/{pid}/cwd").startswith(carpeta):
+                    vivos.append(pid)
+            except OSError:
+                pass
+    return vivos
+
+
+def main(cli, datos):
+    if not os.access(FAIRYMAX, os.X_OK):
+        print(f"{FAIRYMAX} is not installed (tools/install-deps.sh installs it)")
+        sys.exit(SIN_MOTOR)
+    with tempfile.TemporaryDirectory(prefix="qa-cli-motor-") as raiz:
+        carpeta = os.path.join(raiz, "c")
+        c = Cli(cli, datos, carpeta, "quintarena-cli")
+        # A launcher as the install step makes one: the engine starts in a fresh folder with a
+        # home of its own (two of them play each other here).
+        os.makedirs(os.path.join(carpeta, "Motor", "fairymax"))
+        lanzador = os.path.join(carpeta, "Motor", "fairymax", "fairymax")
+        with open(lanzador, "w") as f:
+            f.write('#!/bin/sh\ntrabajo=$(mktemp -d "$PWD/trabajo.XXXXXX") || exit 1\n'
+                    f'cd "$trabajo" && HOME=$trabajo exec {FAIRYMAX}\n')
+        os.chmod(lanzador, 0o755)
+        try:
+            partidas(c, carpeta)
+        finally:
+            c.matar()
+        vivos = motores_vivos(carpeta)
+        if vivos:
+            raise Fallo(f"engine processes left after the program ended: {vivos}")
+    print("engine games through the console tool: passed")
+
+
+def partidas(c, carpeta):
+    c.enviar("engine list")
+    igual("engines found", c.linea("fairymax"), "fairymax")
+    c.linea(".")
+    igual("engine 2", c.respuesta("engine 2 fairymax"), "ok")
+    igual("an engine that is not there", c.respuesta("engine 1 crafty"), "error no engine crafty")
+    igual("level", c.respuesta("engine level time 1"), "st 1")
+    igual("start", c.respuesta("engine start"), "ok")
+    c.linea("to2 xboard")  # the start is delayed by a second
+    c.linea("to2 st 1")
+    igual("the person's move", c.respuesta("move 5254"), "legal")
+    c.linea("to2 e2e4")
+    c.esperar(lambda l: l.startswith("from2 move "), "the engine's move")
+    c.hasta("Turno", "1")
+    igual("two half-moves", len(c.lista(1)), 2)
+    igual("resign", c.respuesta("resign"), "ok")
+    c.linea("to2 quit")
+    igual("game over", c.obtener("MotorNegras"), "0")
+    igual("no engine after the game", motores_vivos(carpeta), [])
+
+    # Engine against engine at a shallow depth, to whatever result they reach.
+    igual("engine 1", c.respuesta("engine 1 fairymax"), "ok")
+    igual("level", c.respuesta("engine level depth 2"), "sd 2")
+    igual("start", c.respuesta("engine start"), "ok")
+    c.linea("to1 sd 2")
+    c.esperar(lambda l: l.startswith("from1 move "), "White's first move", 60)
+    c.hasta("MotorBlancas", "0", 240)
+    igual("both engines stopped", c.obtener("MotorNegras"), "0")
+    jugadas = c.lista(1)
+    if len(jugadas) < 2:
+        raise Fallo(f"the engines' game ended after {jugadas!r}")
+    igual("end", c.cerrar(), 0)
+    if not any(e.startswith("message ") for e in c.errores[-3:]):
+        raise Fallo("the end of the engines' game was not told: " + "\n".join(c.errores[-5:]))
+
+
+if __name__ == "__main__":
+    try:
+        main(sys.argv[1], sys.argv[2])
+    except Fallo as e:
+        print("FAILED:", e)
+        sys.exit(1)
