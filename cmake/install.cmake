@@ -4,6 +4,7 @@
 # settings and ranking in the user's data folder.
 set(QA_CARPETA_INSTALADA lib/quintarena)
 install(TARGETS quintarena quintarena-cli RUNTIME DESTINATION ${QA_CARPETA_INSTALADA})
+install(TARGETS quintarena-cli-bucle LIBRARY DESTINATION ${QA_CARPETA_INSTALADA})
 install(DIRECTORY ${CMAKE_SOURCE_DIR}/data/ DESTINATION ${QA_CARPETA_INSTALADA}
         PATTERN CMakeLists.txt EXCLUDE)
 install(CODE "

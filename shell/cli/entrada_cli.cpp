@@ -7,7 +7,8 @@
 #include <ostream>
 #include <unistd.h>
 
-EntradaCli::EntradaCli(SesionCli& sesion, bool hayEntrada, std::function<void()> alTerminar)
+EntradaCli::EntradaCli(SesionCli& sesion, const std::string& leido, bool fin,
+                       std::function<void()> alTerminar)
     : sesion_(sesion), alTerminar_(std::move(alTerminar)) {
     espera_.setSingleShot(true);
     espera_.setTimerType(Qt::PreciseTimer);
@@ -16,13 +17,16 @@ EntradaCli::EntradaCli(SesionCli& sesion, bool hayEntrada, std::function<void()>
         sesion_.Salida() << "ok" << std::endl;
         Avanzar();
     });
-    if (!hayEntrada) {
-        fin_ = true;
-        QTimer::singleShot(0, [this] { Avanzar(); });
-        return;
+    Tomar(leido.data(), leido.size());
+    if (fin) {
+        // Descriptor 0 may be closed, and its number taken by one of Qt's own since.
+        Acabar();
+    } else {
+        notificador_ = std::make_unique<QSocketNotifier>(0, QSocketNotifier::Read);
+        notificador_->setEnabled(false);
+        QObject::connect(notificador_.get(), &QSocketNotifier::activated, [this] { Leer(); });
     }
-    notificador_ = std::make_unique<QSocketNotifier>(0, QSocketNotifier::Read);
-    QObject::connect(notificador_.get(), &QSocketNotifier::activated, [this] { Leer(); });
+    QTimer::singleShot(0, &contexto_, [this] { Avanzar(); });
 }
 
 // One read of what is there: the notifier says it will not block.
@@ -33,19 +37,26 @@ void EntradaCli::Leer() {
         n = ::read(0, buf, sizeof buf);
     } while (n < 0 && errno == EINTR);
     if (n < 0 && errno == EAGAIN) return;
-    if (n <= 0) {
-        fin_ = true;
-        notificador_->setEnabled(false);
-        if (!resto_.empty()) lineas_.push_back(std::move(resto_));
-        resto_.clear();
-    } else {
-        resto_.append(buf, static_cast<size_t>(n));
-        size_t ini = 0;
-        for (size_t fin; (fin = resto_.find('\n', ini)) != std::string::npos; ini = fin + 1)
-            lineas_.emplace_back(resto_, ini, fin - ini);
-        resto_.erase(0, ini);
-    }
+    if (n <= 0)
+        Acabar();
+    else
+        Tomar(buf, static_cast<size_t>(n));
     Avanzar();
+}
+
+void EntradaCli::Tomar(const char* datos, size_t n) {
+    resto_.append(datos, n);
+    size_t ini = 0;
+    for (size_t fin; (fin = resto_.find('\n', ini)) != std::string::npos; ini = fin + 1)
+        lineas_.emplace_back(resto_, ini, fin - ini);
+    resto_.erase(0, ini);
+}
+
+void EntradaCli::Acabar() {
+    fin_ = true;
+    if (notificador_) notificador_->setEnabled(false);
+    if (!resto_.empty()) lineas_.push_back(std::move(resto_));
+    resto_.clear();
 }
 
 int EntradaCli::retenida_ = 0;

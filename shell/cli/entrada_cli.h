@@ -15,9 +15,10 @@ class SesionCli;
 
 class EntradaCli {
 public:
-    // `alTerminar` runs once, when the input has ended and nothing is left to run. Without
-    // `hayEntrada` (descriptor 0 closed) the input counts as ended at once.
-    EntradaCli(SesionCli& sesion, bool hayEntrada, std::function<void()> alTerminar);
+    // `leido` was read before the loop began; with `fin` the input ended there. `alTerminar`
+    // runs once, when the input has ended and nothing is left to run.
+    EntradaCli(SesionCli& sesion, const std::string& leido, bool fin,
+               std::function<void()> alTerminar);
     EntradaCli(const EntradaCli&) = delete;
     EntradaCli& operator=(const EntradaCli&) = delete;
 
@@ -26,6 +27,8 @@ public:
 
 private:
     void Leer();
+    void Tomar(const char* datos, size_t n);
+    void Acabar();
     void Avanzar();
     bool Esperar(const std::string& arg);
 

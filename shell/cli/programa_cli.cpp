@@ -3,6 +3,7 @@
 #include "core/game_state.h"
 #include "shell/cli/entrada_cli.h"
 #include "shell/cli/motor_cli.h"
+#include "shell/cli/ordenes_bucle.h"
 #include "shell/cli/red_cli.h"
 
 #include <QCoreApplication>
@@ -12,24 +13,6 @@
 namespace {
 
 constexpr int kPlazoCierreMs = 5000;
-
-bool OrdenDeRed(const std::string& orden, const std::string& arg) {
-    static const std::set<std::string> kOrdenes = {"listen", "connect", "cancel",  "disconnect",
-                                                   "say",    "nick",    "address", "resign",
-                                                   "draw",   "epd"};
-    return kOrdenes.count(orden) > 0 || (orden == "new" && !arg.empty());
-}
-
-bool VariableDeRed(const std::string& nombre) {
-    static const std::set<std::string> kNombres = {"versionremota",    "nick",
-                                                   "escliente",        "esservidor",
-                                                   "nuevopendiente",   "ofertapendiente",
-                                                   "archivopendiente", "cierrependiente",
-                                                   "envioencurso",     "pingencurso",
-                                                   "pingsegundos",     "colaenviocuenta",
-                                                   "puntuacion",       "puntuacionremota"};
-    return kNombres.count(nombre) > 0;
-}
 
 } // namespace
 
@@ -72,7 +55,9 @@ bool ProgramaCli::Ejecutar(const std::string& orden, const std::string& arg) {
 }
 
 bool ProgramaCli::Obtener(const std::string& nombre, std::string& valor) {
-    if (motor_ && motor_->Obtener(nombre, valor)) return true;
+    if (motor_ || VariableDeMotor(nombre)) {
+        if (Motor().Obtener(nombre, valor)) return true;
+    }
     if (red_ || VariableDeRed(nombre)) return Red().Obtener(nombre, valor);
     return false;
 }

@@ -5,6 +5,7 @@ import os
 import queue
 import shutil
 import subprocess
+import sys
 import threading
 import time
 
@@ -20,6 +21,8 @@ class Cli:
     def __init__(self, cli, datos, carpeta, nombre):
         os.makedirs(carpeta, exist_ok=True)
         shutil.copy2(cli, os.path.join(carpeta, "quintarena-cli"))
+        # Its event loop, loaded from beside it.
+        shutil.copy2(os.path.join(os.path.dirname(cli), "quintarena-cli-bucle.so"), carpeta)
         for f in os.listdir(datos):
             if f.endswith(".lng") or f == "Default.ini":
                 shutil.copy2(os.path.join(datos, f), carpeta)
@@ -110,23 +113,21 @@ class Cli:
                 raise Fallo(f"{self.nombre}: {nombre} stayed {v!r}, wanted {valor!r}")
             time.sleep(0.05)
 
-    def tablero(self):
-        self.enviar("board")
+    def bloque(self, orden):
+        """The lines a command answers with, up to its closing "."."""
+        self.enviar(orden)
         filas = []
         while True:
-            l = self.esperar(lambda l: not l.startswith(TRAZAS), "board")
+            l = self.esperar(lambda l: not l.startswith(TRAZAS), f"answer to {orden!r}")
             if l == ".":
                 return filas
             filas.append(l)
 
+    def tablero(self):
+        return self.bloque("board")
+
     def lista(self, n):
-        self.enviar(f"list {n}")
-        filas = []
-        while True:
-            l = self.esperar(lambda l: not l.startswith(TRAZAS), "list")
-            if l == ".":
-                return filas
-            filas.append(l)
+        return self.bloque(f"list {n}")
 
     def cerrar(self, plazo=ESPERA):
         try:
@@ -151,3 +152,18 @@ class Cli:
         if self.proc.poll() is None:
             self.proc.kill()
             self.proc.wait()
+
+
+def igual(que, a, b):
+    if a != b:
+        raise Fallo(f"{que}: {a!r} != {b!r}")
+
+
+def correr(main):
+    """A test's main with the program and the data folder from the command line: a failure
+    prints its reason and exits 1."""
+    try:
+        main(sys.argv[1], sys.argv[2])
+    except Fallo as e:
+        print("FAILED:", e)
+        sys.exit(1)

@@ -6,15 +6,11 @@ import sys
 import tempfile
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-from cli_peer import Cli, Fallo  # noqa: E402
+from cli_peer import Cli, Fallo, correr, igual  # noqa: E402
 
 FAIRYMAX = "/usr/games/fairymax"
 SIN_MOTOR = 77  # ctest's skip code
 
-
-def igual(que, a, b):
-    if a != b:
-        raise Fallo(f"{que}: {a!r} != {b!r}")
 
 
 def motores_vivos(carpeta):
@@ -94,8 +90,4 @@ def partidas(c, carpeta):
 
 
 if __name__ == "__main__":
-    try:
-        main(sys.argv[1], sys.argv[2])
-    except Fallo as e:
-        print("FAILED:", e)
-        sys.exit(1)
+    correr(main)

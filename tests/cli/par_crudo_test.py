@@ -8,7 +8,7 @@ import tempfile
 import time
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-from cli_peer import ESPERA, Cli, Fallo  # noqa: E402
+from cli_peer import ESPERA, Cli, Fallo, correr, igual  # noqa: E402
 
 
 class Par:
@@ -47,10 +47,6 @@ class Par:
         self.s.sendall(texto.encode("latin-1"))
         cli.linea("recv " + (visto if visto is not None else texto))
 
-
-def igual(que, a, b):
-    if a != b:
-        raise Fallo(f"{que}: {a!r} != {b!r}")
 
 
 def main(cli, datos):
@@ -108,8 +104,4 @@ def main(cli, datos):
 
 
 if __name__ == "__main__":
-    try:
-        main(sys.argv[1], sys.argv[2])
-    except Fallo as e:
-        print("FAILED:", e)
-        sys.exit(1)
+    correr(main)

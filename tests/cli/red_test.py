@@ -7,7 +7,7 @@ import sys
 import tempfile
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
-from cli_peer import Cli, Fallo  # noqa: E402
+from cli_peer import Cli, Fallo, correr, igual  # noqa: E402
 
 JAQUE_PASTOR = ["5254", "5755", "6134", "2836", "4185", "7866", "8567"]
 
@@ -19,10 +19,6 @@ def registro(carpeta):
         raise Fallo(f"{carpeta}: the rating record has {len(datos)} bytes")
     return struct.unpack("<5i", datos)
 
-
-def igual(que, a, b):
-    if a != b:
-        raise Fallo(f"{que}: {a!r} != {b!r}")
 
 
 def jugar(mueve, espera, jugada):
@@ -179,9 +175,4 @@ def partida(a, b):
 
 
 if __name__ == "__main__":
-    try:
-        main(sys.argv[1], sys.argv[2])
-    except Fallo as e:
-        import traceback; traceback.print_exc()
-        print("FAILED:", e)
-        sys.exit(1)
+    correr(main)

@@ -13,7 +13,7 @@ fallo() { echo "FAIL: $*"; [ -f "$raiz/salida.txt" ] && cat "$raiz/salida.txt"; 
 
 cmake --install "$build" --prefix "$prefijo" >/dev/null
 carpeta="$prefijo/lib/quintarena"
-for f in quintarena quintarena-cli Default.ini English.lng Español.lng Sonidos/Mueve.wav \
+for f in quintarena quintarena-cli quintarena-cli-bucle.so Default.ini English.lng Español.lng Sonidos/Mueve.wav \
          Quintarena-Español.html Quintarena-English.html ayuda/es-pgn.png; do
   [ -e "$carpeta/$f" ] || fallo "$f is not in lib/quintarena"
 done
@@ -27,6 +27,9 @@ if command -v desktop-file-validate >/dev/null; then
 fi
 # The console tool finds its language beside itself through the link.
 printf 'new\nmove 5254\n' | "$prefijo/bin/quintarena-cli" | grep -qx legal || fallo "cli"
+# Its event loop too.
+printf 'wait 1\nget ColaEnvioCuenta\n' | "$prefijo/bin/quintarena-cli" | tail -1 | grep -qx 0 ||
+  fallo "the cli's event loop"
 
 # No registration questions: a box would wait for a click that never comes.
 sed -i 's/^Regit\(Qtr\|Pgn\|Epd\)=0/Regit\1=1/' "$carpeta/Default.ini"
