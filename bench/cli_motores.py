@@ -4,6 +4,7 @@ against a scripted person at each level kind and colour, and a match of two engi
 
     bench/cli_motores.py CLI table [ENGINE ...]          engine x level kind x colour
     bench/cli_motores.py CLI match E1 E2 GAMES LEVEL...  e.g. match fairymax phalanx 20 time 1
+    bench/cli_motores.py CLI first                      start to fairymax's first move at st 1
 
 The engines are the ones Debian installs in /usr/games, each started by a launcher in a fresh
 folder, as the install step sets them up. The person plays a random legal move (found with
@@ -118,10 +119,49 @@ def tabla(cli, datos, nombres):
             c.cerrar()
 
 
+def cpu_s(pid):
+    with open(f"/proc/{pid}/stat") as f:
+        campos = f.read().rsplit(")", 1)[1].split()
+    return (int(campos[11]) + int(campos[12])) / os.sysconf("SC_CLK_TCK")
+
+
+def rss_kb(pid):
+    with open(f"/proc/{pid}/status") as f:
+        for l in f:
+            if l.startswith("VmRSS:"):
+                return int(l.split()[1])
+    return 0
+
+
+def primera(cli, datos, veces=5):
+    """From the start button to the engine's first move, fairymax with White at 1 s a move."""
+    with tempfile.TemporaryDirectory(prefix="qa-bench-primera-") as raiz:
+        c = preparar(cli, datos, raiz, ["fairymax"])
+        try:
+            c.respuesta("engine 1 fairymax")
+            c.respuesta("engine 2 none")
+            c.respuesta("engine level time 1")
+            tiempos = []
+            for _ in range(veces):
+                c.respuesta("answer yes")
+                t = time.monotonic()
+                c.respuesta("engine start")
+                c.esperar(lambda l: l.startswith("from1 move "), "the first move", 30)
+                tiempos.append(time.monotonic() - t)
+                c.respuesta("engine stop")
+        finally:
+            c.cerrar()
+    print(f"start to fairymax's first move at 'st 1' ({veces} times): median "
+          f"{sorted(tiempos)[len(tiempos) // 2]:.2f} s, best {min(tiempos):.2f} s, worst "
+          f"{max(tiempos):.2f} s; 1 s of it is the delayed start, the rest the engine's")
+
+
 def partido(cli, datos, e1, e2, juegos, nivel):
     with tempfile.TemporaryDirectory(prefix="qa-bench-partido-") as raiz:
         c = preparar(cli, datos, raiz, sorted({e1, e2}))
         cuenta = {}
+        pid = c.proc.pid
+        cpu0, t0 = cpu_s(pid), time.monotonic()
         try:
             for i in range(juegos):
                 b, n = (e1, e2) if i % 2 == 0 else (e2, e1)
@@ -131,6 +171,10 @@ def partido(cli, datos, e1, e2, juegos, nivel):
                 cuenta[clave] = cuenta.get(clave, 0) + 1
                 print(f"game {i + 1}: {b} (White) - {n} (Black): {r} after {medias} half-moves, "
                       f"{' / '.join(como)} ({time.monotonic() - t:.0f} s)", flush=True)
+            cpu, pared = cpu_s(pid) - cpu0, time.monotonic() - t0
+            print(f"the program itself used {cpu:.1f} s of CPU in {pared:.0f} s "
+                  f"({100 * cpu / pared:.1f} %, its script's polls included); resident memory "
+                  f"after the games {rss_kb(pid)} kB")
         finally:
             c.cerrar()
         print(f"{juegos} games of {e1} against {e2} at '{nivel}':")
@@ -143,6 +187,8 @@ def main():
     datos = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "data")
     if modo == "table":
         tabla(cli, datos, sys.argv[3:] or list(MOTORES))
+    elif modo == "first":
+        primera(cli, datos)
     elif modo == "match":
         partido(cli, datos, sys.argv[3], sys.argv[4], int(sys.argv[5]), " ".join(sys.argv[6:]))
     else:
