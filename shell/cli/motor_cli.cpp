@@ -19,10 +19,14 @@ using namespace Variables;
 MotorCli::Consola::Consola(MotorCli& cpu, int motor) : cpu_(cpu), motor_(motor) {
     puente_.alDatoRecibido = [this](const std::string& linea) {
         cpu_.cli_.Salida() << "from" << motor_ << ' ' << TextoVisible(linea) << std::endl;
+        ++cpu_.enInforme_;
         cpu_.motores_.DatoRecibido(motor_, linea);
+        --cpu_.enInforme_;
     };
     puente_.alErrorRecibido = [this](const std::string& texto) {
+        ++cpu_.enInforme_;
         cpu_.motores_.ErrorRecibido(motor_, texto);
+        --cpu_.enInforme_;
     };
 }
 
@@ -89,8 +93,18 @@ void MotorCli::Soltar(int motor) {
     if (!c) return;
     c->Callar();
     soltadas_.push_back(std::move(c));
-    // It may be dropped inside one of its own reports: deleted once those have returned.
-    QTimer::singleShot(0, &contexto_, [this] { soltadas_.clear(); });
+    LimpiarSoltadas();
+}
+
+// A console may be dropped inside one of its own reports, and a yield inside a report runs this
+// timer too: they go only once no report is running.
+void MotorCli::LimpiarSoltadas() {
+    QTimer::singleShot(0, &contexto_, [this] {
+        if (enInforme_ == 0)
+            soltadas_.clear();
+        else
+            LimpiarSoltadas();
+    });
 }
 
 qa::ConsolaMotor& MotorCli::NuevaConsola(int motor) {

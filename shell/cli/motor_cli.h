@@ -68,6 +68,7 @@ private:
     void Elegir(int lista, const std::string& nombre);
     void Nivel(const std::string& arg);
     void Soltar(int motor);
+    void LimpiarSoltadas();
 
     SesionCli& cli_;
     std::function<void()> ceder_;
@@ -75,6 +76,7 @@ private:
     std::unique_ptr<Consola> consola_[2];
     std::vector<std::unique_ptr<Consola>> soltadas_; // deleted once the loop runs free
     QObject contexto_;                               // the deferred deletes die with us
+    int enInforme_ = 0;                              // consoles' reports running
 
     bool visible_ = false;
     std::vector<std::string> entradas_;
