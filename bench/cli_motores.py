@@ -17,7 +17,7 @@ import tempfile
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "cli"))
-from cli_peer import Cli, Fallo  # noqa: E402
+from cli_peer import Cli, Fallo, rss_kb  # noqa: E402
 
 JUEGOS = "/usr/games"
 MOTORES = {
@@ -123,14 +123,6 @@ def cpu_s(pid):
     with open(f"/proc/{pid}/stat") as f:
         campos = f.read().rsplit(")", 1)[1].split()
     return (int(campos[11]) + int(campos[12])) / os.sysconf("SC_CLK_TCK")
-
-
-def rss_kb(pid):
-    with open(f"/proc/{pid}/status") as f:
-        for l in f:
-            if l.startswith("VmRSS:"):
-                return int(l.split()[1])
-    return 0
 
 
 def primera(cli, datos, veces=5):

@@ -13,17 +13,9 @@ import tempfile
 import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "tests", "cli"))
-from cli_peer import Cli, Fallo  # noqa: E402
+from cli_peer import Cli, Fallo, rss_kb  # noqa: E402
 
 IDA = ["7163", "7866", "6371", "6678"]  # knights out and home again: any number of moves
-
-
-def rss_kb(pid):
-    with open(f"/proc/{pid}/status") as f:
-        for l in f:
-            if l.startswith("VmRSS:"):
-                return int(l.split()[1])
-    return 0
 
 
 def conectar(a, b):

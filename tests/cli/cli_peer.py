@@ -154,6 +154,15 @@ class Cli:
             self.proc.wait()
 
 
+def rss_kb(pid):
+    """A process's resident memory."""
+    with open(f"/proc/{pid}/status") as f:
+        for l in f:
+            if l.startswith("VmRSS:"):
+                return int(l.split()[1])
+    return 0
+
+
 def igual(que, a, b):
     if a != b:
         raise Fallo(f"{que}: {a!r} != {b!r}")
