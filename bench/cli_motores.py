@@ -54,13 +54,19 @@ def final(c, desde):
 def jugada_al_azar(c, color):
     propias = range(1, 7) if color == 1 else range(7, 13)
     filas = c.tablero()  # row 8 first
-    casillas = [(col, 8 - i) for i, f in enumerate(filas) for col, p in
-                enumerate((int(x) for x in f.split()), 1) if p in propias]
+    piezas = {(col, 8 - i): p for i, f in enumerate(filas)
+              for col, p in enumerate((int(x) for x in f.split()), 1) if p in propias}
+    casillas = list(piezas)
     random.shuffle(casillas)
     destinos = [(x, y) for x in range(1, 9) for y in range(1, 9)]
     for co, fo in casillas:
         random.shuffle(destinos)
         for cd, fd in destinos:
+            # The board takes a bishop's or queen's walk that runs off the board as legal; an
+            # engine does not, and the person here plays chess.
+            tipo, dc, df = (piezas[(co, fo)] - 1) % 6 + 1, abs(cd - co), abs(fd - fo)
+            if (tipo == 4 and dc != df) or (tipo == 5 and dc != df and dc and df):
+                continue
             j = f"{co}{fo}{cd}{fd}"
             if c.respuesta("probe " + j) == "legal":
                 return j
