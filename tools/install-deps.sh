@@ -4,7 +4,7 @@ set -euo pipefail
 pkgs=(cmake ninja-build g++ clang libclang-rt-14-dev clang-format
       qt6-base-dev qt6-svg-dev qt6-multimedia-dev qt6-translations-l10n libgl-dev
       libgtest-dev libbenchmark-dev xvfb xauth imagemagick fonts-dejavu-core
-      sox librsvg2-bin pgn-extract
+      sox librsvg2-bin pgn-extract python3
       fairymax phalanx hoichess gnuchess sjeng stockfish polyglot)
 # npm only where no Node.js is present: Debian's package conflicts with other installs of it.
 command -v npm >/dev/null 2>&1 || pkgs+=(npm)
