@@ -4,7 +4,6 @@
 #include "core/game_state.h"
 #include "core/move_list.h"
 #include "files/epd_list.h"
-#include "files/fen.h"
 #include "files/line_reader.h"
 #include "net/puntuacion.h"
 #include "platform/ini_file.h"
@@ -269,12 +268,9 @@ void RedCli::Epd(const std::string& arg) {
         salida << "error no position " << arg << '\n';
         return;
     }
+    // Over the network the position goes to the peer with the colour chosen here.
     epdVisible_ = false;
-    if (!FEpd::EventosDblClick(n)) {
-        // Over the network the position goes to the peer with the colour chosen here.
-        AbrirEpd();
-        FEpd::Cerrar();
-    }
+    FEpd::EventosDblClick(n);
     salida << "ok\n";
 }
 
