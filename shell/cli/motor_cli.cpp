@@ -49,6 +49,8 @@ void MotorCli::Consola::Enviar(const std::string& texto) {
                << '\n';
         if (fin == std::string::npos) break;
         ini = fin + 2;
+        // A command that ends in a line end goes out with that one line end, no empty line.
+        if (ini == texto.size()) break;
     }
     salida.flush();
     puente_.Enviar(texto);

@@ -63,6 +63,9 @@ def partidas(c, carpeta):
     igual("start", c.respuesta("engine start"), "ok")
     c.linea("to2 xboard")  # the start is delayed by a second
     c.linea("to2 st 1")
+    c.linea("to2 easy")
+    # Each start-up command ends in a line end, and the engine gets no empty line after it.
+    igual("empty lines traced", [l for l in c.lineas if l == "to2 "], [])
     igual("the person's move", c.respuesta("move 5254"), "legal")
     c.linea("to2 e2e4")
     c.esperar(lambda l: l.startswith("from2 move "), "the engine's move")
