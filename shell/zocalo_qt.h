@@ -5,6 +5,9 @@
 #include "net/sesion.h"
 #include "platform/socket_red.h"
 
+#include <functional>
+#include <string>
+
 namespace qa {
 
 class ZocaloQt final : public Zocalo {
@@ -19,7 +22,10 @@ public:
         return socket.Bind(puerto) && socket.Listen();
     }
     void Aceptar() override { socket.Accept(peticion_); }
-    bool EnviarDatos(const std::string& texto) override { return socket.SendData(texto); }
+    bool EnviarDatos(const std::string& texto) override {
+        if (alEnviar) alEnviar(texto);
+        return socket.SendData(texto);
+    }
     void Cerrar() override { socket.Close(); }
     int Estado() const override { return socket.State(); }
     std::string IpLocal() const override { return SocketRed::LocalIP(); }
@@ -32,7 +38,9 @@ public:
             sesion.AlPedirConexion();
         };
         socket.alLlegarDatos = [this, &sesion](std::size_t) {
-            sesion.AlLlegarDatos(socket.GetData());
+            const std::string datos = socket.GetData();
+            if (alRecibir) alRecibir(datos);
+            sesion.AlLlegarDatos(datos);
         };
         socket.alCompletarEnvio = [&sesion] { sesion.AlCompletarEnvio(); };
         socket.alCerrar = [&sesion, lado] { sesion.AlCerrar(lado); };
@@ -42,6 +50,9 @@ public:
     }
 
     SocketRed socket;
+    // Who wants to see each text handed to the socket and each one dispatched (the console
+    // tool's trace); nothing set, nothing seen.
+    std::function<void(const std::string&)> alEnviar, alRecibir;
 
 private:
     int peticion_ = 0;

@@ -32,46 +32,19 @@ std::string Registro(const qa::RegistroPuntuacion& r) {
 
 } // namespace
 
-void RedCli::Zocalo::Enlazar(qa::SesionRed& sesion, qa::Lado lado) {
-    socket_.alConectar = [&sesion] { sesion.AlConectar(); };
-    socket_.alPedirConexion = [this, &sesion](int peticion) {
-        peticion_ = peticion;
-        sesion.AlPedirConexion();
-    };
-    socket_.alLlegarDatos = [this, &sesion](std::size_t) {
-        const std::string datos = socket_.GetData();
-        salida_ << "recv " << TextoVisible(datos) << std::endl;
-        sesion.AlLlegarDatos(datos);
-    };
-    socket_.alCompletarEnvio = [&sesion] { sesion.AlCompletarEnvio(); };
-    socket_.alCerrar = [&sesion, lado] { sesion.AlCerrar(lado); };
-    socket_.alFallar = [&sesion, lado](int, const std::string& descripcion) {
-        sesion.AlFallar(lado, descripcion);
-    };
-}
-
-bool RedCli::Zocalo::Conectar(const std::string& host, int puertoRemoto, int puertoLocal) {
-    socket_.LocalPort(puertoLocal);
-    socket_.RemotePort(puertoRemoto);
-    return socket_.Connect(host, puertoRemoto);
-}
-
-bool RedCli::Zocalo::Escuchar(int puerto) {
-    socket_.LocalPort(puerto);
-    return socket_.Bind(puerto) && socket_.Listen();
-}
-
-bool RedCli::Zocalo::EnviarDatos(const std::string& texto) {
-    salida_ << "sent " << TextoVisible(texto) << std::endl;
-    return socket_.SendData(texto);
-}
-
 RedCli::RedCli(SesionCli& cli, std::function<void()> cerrar)
-    : cli_(cli), cerrar_(std::move(cerrar)), wcli_(cli.Salida()), wser_(cli.Salida()), bomba_(300),
-      ping_(65000), ranking_(2500, true), sendQtr_(100), retrasoQtr_(100), relojB_(200),
-      relojN_(200),
+    : cli_(cli), cerrar_(std::move(cerrar)), bomba_(300), ping_(65000), ranking_(2500, true),
+      sendQtr_(100), retrasoQtr_(100), relojB_(200), relojN_(200),
       sesion_(wcli_, wser_, *this,
               {bomba_, ping_, ranking_, sendQtr_, retrasoQtr_, relojB_, relojN_}, hora_) {
+    for (qa::ZocaloQt* z : {&wcli_, &wser_}) {
+        z->alEnviar = [this](const std::string& t) {
+            cli_.Salida() << "sent " << TextoVisible(t) << std::endl;
+        };
+        z->alRecibir = [this](const std::string& t) {
+            cli_.Salida() << "recv " << TextoVisible(t) << std::endl;
+        };
+    }
     wcli_.Enlazar(sesion_, qa::Lado::Cliente);
     wser_.Enlazar(sesion_, qa::Lado::Servidor);
     sesion_.Nick = qa::LeerIni(qa::FicheroOpciones, "Configuracion", "Nick");

@@ -5,8 +5,8 @@
 
 #include "net/puertas.h"
 #include "net/sesion.h"
-#include "platform/socket_red.h"
 #include "platform/temporizador_qt.h"
+#include "shell/zocalo_qt.h"
 
 #include <functional>
 #include <iosfwd>
@@ -69,25 +69,6 @@ public:
     bool VolverAPreguntar() override;
 
 private:
-    // A socket of the session that prints what it hands over and what it dispatches.
-    class Zocalo final : public qa::Zocalo {
-    public:
-        Zocalo(std::ostream& salida) : salida_(salida) {}
-        void Enlazar(qa::SesionRed& sesion, qa::Lado lado);
-        bool Conectar(const std::string& host, int puertoRemoto, int puertoLocal) override;
-        bool Escuchar(int puerto) override;
-        void Aceptar() override { socket_.Accept(peticion_); }
-        bool EnviarDatos(const std::string& texto) override;
-        void Cerrar() override { socket_.Close(); }
-        int Estado() const override { return socket_.State(); }
-        std::string IpLocal() const override { return qa::SocketRed::LocalIP(); }
-
-    private:
-        std::ostream& salida_;
-        qa::SocketRed socket_;
-        int peticion_ = 0;
-    };
-
     struct OfertaNueva {
         bool blancas = true, puntuable = true;
         std::string minutos;
@@ -101,7 +82,7 @@ private:
 
     SesionCli& cli_;
     std::function<void()> cerrar_;
-    Zocalo wcli_, wser_;
+    qa::ZocaloQt wcli_, wser_; // they print what they hand over and what they dispatch
     qa::TemporizadorQt bomba_, ping_, ranking_, sendQtr_, retrasoQtr_, relojB_, relojN_;
     qa::HoraSistema hora_;
     qa::SesionRed sesion_;
