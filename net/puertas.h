@@ -3,25 +3,13 @@
 // and the time of day. The program and the console tool each supply their own; tests a fake.
 // Everything here is pure virtual, so a holder that forgets a piece does not compile.
 
+#include "platform/estado_zocalo.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
 
 namespace qa {
-
-// The states of a socket, numbered as the logic compares them: above 0 is in use.
-enum EstadoZocalo : int {
-    kZocaloCerrado = 0,
-    kZocaloAbierto = 1,
-    kZocaloEscuchando = 2,
-    kZocaloPendiente = 3,
-    kZocaloResolviendo = 4,
-    kZocaloResuelto = 5,
-    kZocaloConectando = 6,
-    kZocaloConectado = 7,
-    kZocaloCerrando = 8,
-    kZocaloError = 9,
-};
 
 // One stream socket. Two of them stand on the board: one that only calls, one that only waits
 // and then carries the caller it accepted. Its events come back through the session's Al...

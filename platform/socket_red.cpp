@@ -115,7 +115,7 @@ void SocketRed::AlDesconectar() {
     if (!resto.isEmpty()) Encolar({Tipo::Datos, resto.toStdString(), 0});
     Encolar({Tipo::Cierre, {}, 0});
     Soltar(conexion_);
-    final_ = kCerrando;
+    final_ = kZocaloCerrando;
 }
 
 void SocketRed::AlError(int error) {
@@ -125,7 +125,7 @@ void SocketRed::AlError(int error) {
     if (!resto.isEmpty()) Encolar({Tipo::Datos, resto.toStdString(), 0});
     Encolar({Tipo::Fallo, conexion_->errorString().toStdString(), error});
     Soltar(conexion_);
-    final_ = kError;
+    final_ = kZocaloError;
 }
 
 // Inside one of the socket's own signals it cannot be deleted at once: it goes at the next turn
@@ -170,7 +170,7 @@ bool SocketRed::Listen() {
                          [this] { NuevasPeticiones(); });
     }
     if (servidor_->isListening()) return false;
-    final_ = kCerrado;
+    final_ = kZocaloCerrado;
     return servidor_->listen(QHostAddress::Any, static_cast<quint16>(puertoEscucha_));
 }
 
@@ -189,7 +189,7 @@ bool SocketRed::Accept(int peticion) {
     if (it == peticiones_.end() || conexion_) return false;
     QTcpSocket* s = it->second;
     peticiones_.erase(it);
-    final_ = kCerrado;
+    final_ = kZocaloCerrado;
     conexion_ = s;
     Vigilar(s);
     // What the caller sent before we took it, and a caller already gone, are not signalled again.
@@ -248,26 +248,26 @@ void SocketRed::Close() {
     bytesPendientes_ = 0;
     envios_.clear();
     datos_.clear();
-    final_ = kCerrado;
+    final_ = kZocaloCerrado;
 }
 
 int SocketRed::State() const {
     if (conexion_) {
         switch (conexion_->state()) {
         case QAbstractSocket::HostLookupState:
-            return kBuscandoHost;
+            return kZocaloResolviendo;
         case QAbstractSocket::ConnectingState:
         case QAbstractSocket::BoundState:
-            return kConectando;
+            return kZocaloConectando;
         case QAbstractSocket::ConnectedState:
-            return kConectado;
+            return kZocaloConectado;
         case QAbstractSocket::ClosingState:
-            return kCerrando;
+            return kZocaloCerrando;
         default:
-            return kCerrado;
+            return kZocaloCerrado;
         }
     }
-    if (servidor_ && servidor_->isListening()) return kEscuchando;
+    if (servidor_ && servidor_->isListening()) return kZocaloEscuchando;
     return final_;
 }
 

@@ -12,6 +12,8 @@
 #include <map>
 #include <string>
 
+#include "platform/estado_zocalo.h"
+
 class QTcpServer;
 class QTcpSocket;
 
@@ -19,17 +21,8 @@ namespace qa {
 
 class SocketRed {
 public:
-    // What State() answers, by the numbers the network code compares with.
-    enum Estado {
-        kCerrado = 0,
-        kEscuchando = 2,
-        kPeticionPendiente = 3,
-        kBuscandoHost = 4,
-        kConectando = 6,
-        kConectado = 7,
-        kCerrando = 8, // the peer has closed; Close() ends it here too
-        kError = 9,
-    };
+    // What State() answers.
+    using Estado = EstadoZocalo;
 
     SocketRed();
     ~SocketRed();
@@ -107,7 +100,7 @@ private:
     std::int64_t bytesPendientes_ = 0; // received, not yet dispatched
     std::deque<std::int64_t> envios_;  // bytes still to write of each message handed over
     std::string datos_;                // what the current data event brought
-    Estado final_ = kCerrado;          // after the peer's close or an error
+    Estado final_ = kZocaloCerrado;    // after the peer's close or an error
     int puertoLocal_ = 0;
     int puertoRemoto_ = 0;
     int puertoEscucha_ = 0;

@@ -91,7 +91,7 @@ protected:
         ser.RemotePort(1501);
         ASSERT_TRUE(ser.Bind(1500));
         ASSERT_TRUE(ser.Listen());
-        ASSERT_EQ(ser.State(), SocketRed::kEscuchando);
+        ASSERT_EQ(ser.State(), qa::kZocaloEscuchando);
         ser.alPedirConexion = [this](int peticion) {
             if (ser.State() > 0) ser.Close();
             aceptado = ser.Accept(peticion);
@@ -106,14 +106,14 @@ protected:
         ASSERT_TRUE(cli.Connect("127.0.0.1", 1500));
         ASSERT_TRUE(Esperar([&] { return aceptado && rCli.conectado == antes + 1; }))
             << ::testing::PrintToString(rCli.fallos);
-        ASSERT_EQ(ser.State(), SocketRed::kConectado);
-        ASSERT_EQ(cli.State(), SocketRed::kConectado);
+        ASSERT_EQ(ser.State(), qa::kZocaloConectado);
+        ASSERT_EQ(cli.State(), qa::kZocaloConectado);
     }
 
     // Connections end from the waiting side, so the caller's port stays free for the next test.
     void TearDown() override {
         ser.Close();
-        if (cli.State() == SocketRed::kConectado) {
+        if (cli.State() == qa::kZocaloConectado) {
             EXPECT_TRUE(Esperar([this] { return rCli.cierres > 0 || !rCli.fallos.empty(); }));
         }
         cli.Close();
@@ -142,7 +142,7 @@ TEST_F(SocketRedTest, TheCallerFromPort1501IsTakenAndNobodyElseAfterIt) {
     });
     tercero.connectToHost("127.0.0.1", 1500);
     EXPECT_TRUE(Esperar([&] { return rechazado; }));
-    EXPECT_EQ(ser.State(), SocketRed::kConectado);
+    EXPECT_EQ(ser.State(), qa::kZocaloConectado);
 }
 
 TEST_F(SocketRedTest, EachPacedMessageIsOneReadAndOneSendComplete) {
@@ -196,17 +196,17 @@ TEST_F(SocketRedTest, ThePeersCloseComesAfterItsDataAndIsNoError) {
     // The waiting side sends its last word and closes at once: the word still goes.
     ASSERT_TRUE(ser.SendData("Rendirse"));
     ser.Close();
-    EXPECT_EQ(ser.State(), SocketRed::kCerrado);
+    EXPECT_EQ(ser.State(), qa::kZocaloCerrado);
     ASSERT_TRUE(Esperar([&] { return rCli.cierres == 1; }));
     EXPECT_EQ(rCli.datos, std::vector<std::string>{"Rendirse"});
     EXPECT_EQ(rCli.orden, (std::vector<std::string>{"conectado", "datos", "cierre"}));
     EXPECT_TRUE(rCli.fallos.empty());
-    EXPECT_EQ(cli.State(), SocketRed::kCerrando);
+    EXPECT_EQ(cli.State(), qa::kZocaloCerrando);
     EXPECT_FALSE(cli.SendData("Close"));
     // The side that closed hears nothing of its own close, not even the write it had begun.
     EXPECT_TRUE(rSer.orden.empty());
     cli.Close();
-    EXPECT_EQ(cli.State(), SocketRed::kCerrado);
+    EXPECT_EQ(cli.State(), qa::kZocaloCerrado);
 }
 
 TEST_F(SocketRedTest, AClosedSocketReportsNothingMore) {
@@ -256,9 +256,9 @@ TEST_F(SocketRedTest, ARefusedCallIsAnErrorAndNotAClose) {
     ASSERT_TRUE(Esperar([&] { return !rCli.fallos.empty(); }));
     EXPECT_EQ(rCli.fallos, std::vector<int>{QAbstractSocket::ConnectionRefusedError});
     EXPECT_EQ(rCli.cierres, 0);
-    EXPECT_EQ(cli.State(), SocketRed::kError);
+    EXPECT_EQ(cli.State(), qa::kZocaloError);
     cli.Close();
-    EXPECT_EQ(cli.State(), SocketRed::kCerrado);
+    EXPECT_EQ(cli.State(), qa::kZocaloCerrado);
 }
 
 TEST_F(SocketRedTest, TakenPortsAreRefusedAtOnce) {
@@ -267,14 +267,14 @@ TEST_F(SocketRedTest, TakenPortsAreRefusedAtOnce) {
     ser.LocalPort(1500);
     ASSERT_TRUE(ser.Bind(1500));
     EXPECT_FALSE(ser.Listen());
-    EXPECT_EQ(ser.State(), SocketRed::kCerrado);
+    EXPECT_EQ(ser.State(), qa::kZocaloCerrado);
     otro.close();
 
     QTcpServer enLaSalida;
     ASSERT_TRUE(enLaSalida.listen(QHostAddress::Any, 1501));
     cli.LocalPort(1501);
     EXPECT_FALSE(cli.Connect("127.0.0.1", 1500));
-    EXPECT_EQ(cli.State(), SocketRed::kCerrado);
+    EXPECT_EQ(cli.State(), qa::kZocaloCerrado);
     EXPECT_TRUE(rCli.orden.empty());
 }
 
@@ -304,7 +304,7 @@ TEST_F(SocketRedTest, TheWaitingSideTakesACallerFromAnyPortAndRefusesOneNotTaken
     QObject::connect(&primero, &QTcpSocket::disconnected, [&] { cortado = true; });
     primero.connectToHost("127.0.0.1", 1500);
     ASSERT_TRUE(Esperar([&] { return cortado; }));
-    EXPECT_EQ(ser.State(), SocketRed::kEscuchando);
+    EXPECT_EQ(ser.State(), qa::kZocaloEscuchando);
 
     ser.alPedirConexion = [this](int peticion) {
         ser.Close();
