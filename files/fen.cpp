@@ -187,12 +187,7 @@ void JugadaVaciaBlancas() {
     EscribirJugada();
 }
 
-bool AbrirEpd() {
-    Cargando = true;
-    TipoPartida.clear();
-    ColorJugador.clear();
-    Turno = 0;
-    if (listas().ListaPgnVisible()) listas().CerrarListaPgn();
+void VaciarParaPosicion() {
     Jugadas::Vaciar();
     VariablesCero();
     MovimientoAnulado();
@@ -200,6 +195,15 @@ bool AbrirEpd() {
     TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = true;
     LineasPartida.assign(2, std::string());
     LineaActual = 0;
+}
+
+bool AbrirEpd() {
+    Cargando = true;
+    TipoPartida.clear();
+    ColorJugador.clear();
+    Turno = 0;
+    if (listas().ListaPgnVisible()) listas().CerrarListaPgn();
+    VaciarParaPosicion();
     Turno = 0;
     TipoPartida = "A";
     ColorJugador.clear();

@@ -23,6 +23,9 @@ std::string FichaTexto(int32_t codigo);
 // A line for White with no move in it, so that Black's first move of a position takes Black's
 // place in the move list.
 void JugadaVaciaBlancas();
+// The game emptied for a position that a line will set: move lists, per-move state, clocks and
+// the stored game's lines; the castling flags set, so that the line's own field decides.
+void VaciarParaPosicion();
 // Opens PosicionFen as a new local (or network) game. Returns LeerFen's
 // answer, which the opening itself does not look at.
 bool AbrirEpd();

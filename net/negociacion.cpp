@@ -100,13 +100,8 @@ void SesionRed::Impl::Epd(const wire::Posicion& p) {
         FicheroPgn.clear();
         listas().CerrarListaPgn();
     }
-    Jugadas::Vaciar();
-    VariablesCero();
-    MovimientoAnulado();
-    RelojesCero();
-    TorreA1Movida = TorreH1Movida = TorreA8Movida = TorreH8Movida = true;
-    LineasPartida.assign(2, std::string());
-    LineaActual = ColorInicio = 0;
+    VaciarParaPosicion();
+    ColorInicio = 0;
     bool relleno = p.forma == '2';
     if (p.forma == '1' || p.forma == '2') Turno = 0;
     if (p.forma == 'T') {
